@@ -1,0 +1,90 @@
+#ifndef GUIAPPLICATION_H
+#define GUIAPPLICATION_H
+
+#include <QApplication>
+#include <QPointer>
+#include <QString>
+
+#include <qgui/types.h>
+
+class XQuickView;
+class QSocketNotifier;
+
+/**
+ * The application object of the panel. It drives the logic layer's cyclic work
+ * from two timers on the GUI thread (slot 4 every 10 ms, slot 5 every 100 ms),
+ * reads the command line, prepares the project folders and asks the logic layer
+ * to initialise the device.
+ *
+ * SIGTERM and SIGINT end the event loop cleanly (aboutToQuit runs), so a
+ * service manager or the logic layer itself can stop the panel.
+ */
+class GuiApplication : public QApplication
+{
+    Q_OBJECT
+
+public:
+    GuiApplication(int& argc, char** argv);
+    ~GuiApplication() override;
+
+    /** The running GuiApplication, or null. */
+    static GuiApplication* instance();
+
+    void setCallbacks(const _Main_CallBacks& callbacks) { m_callbacks = callbacks; }
+    _Main_CallBacks getCallbacks() const { return m_callbacks; }
+
+    int getRotation() const { return m_rotation; }
+    void setRotation(int degrees) { m_rotation = degrees; }
+    bool isPortraitOrientation() const { return m_rotation == 90 || m_rotation == 270; }
+    void setupRotation() {}
+
+    void setView(XQuickView* view) { m_view = view; }
+    XQuickView* view() const { return m_view; }
+
+    /** Calls slot 2 and starts the timers. */
+    void init();
+    /** Reads the command line, prepares the folders, loads the project's fonts and calls slot 1.
+     *  Returns slot 1's result (0 when the slot is null); a failure runs onaboutToQuit(). */
+    int deviceInit(unsigned deviceNo, const QString& a, const QString& b);
+    void loadFontFile();
+    /** Reads "hmifile" (made absolute) into \a projectPath and "option" into \a options; applies
+     *  "rotation" and "online". Unknown options and garbage are ignored. */
+    void parseCmdline(QString& projectPath, QString& options);
+    /** The same on an explicit argument list (the first entry is the program). */
+    void parseCmdline(const QStringList& arguments, QString& projectPath, QString& options);
+    /** Splits the option text at commas into \a words (3 slots, one per kind 0..2; a later word
+     *  of the same kind wins; kind 3 is ignored; unparsable parts read as 0). */
+    static void parseInitOpts(const QString& options, unsigned* words);
+    /** Creates the storage folders under the project, empties "disk/tmp/", prepares the fixed
+     *  files under "disk/". */
+    static void checkPath(const QString& projectPath, const unsigned* words);
+    /** Files prepared by checkPath: path under the project, size in bytes. */
+    static QList<QPair<QString, qint64>> preparedFiles();
+
+    /** Multisampling for the scene: 0 (antialiasing off) when "X_DISABLE_ANTIALIASING" reads as a
+     *  non-zero integer; else "X_ANTIALIASING_SAMPLES" (at most 16), or 4 when that is unset,
+     *  negative or not a number. */
+    static int antialiasingSamples();
+    /** The name of the communication server process stopped at quit. */
+    static QString commServerName() { return QStringLiteral("relaybridge"); }
+
+public Q_SLOTS:
+    void onDownloadFinished(unsigned deviceNo, const QString& a, const QString& b);
+    /** Stops the communication server process, waiting until it is gone. */
+    void onaboutToQuit();
+
+protected:
+    void timerEvent(QTimerEvent* event) override;
+
+private:
+    void installTermination();
+
+    int m_timer10 = 0;
+    int m_timer100 = 0;
+    _Main_CallBacks m_callbacks{};
+    int m_rotation = 0;
+    XQuickView* m_view = nullptr; // not owned
+    QSocketNotifier* m_termNotifier = nullptr;
+};
+
+#endif // GUIAPPLICATION_H

@@ -1,0 +1,124 @@
+#include "config/globalconfig.h"
+
+#include "app/guiapplication.h"
+#include "app/xquickview.h"
+#include "config/xeventfilter.h"
+#include "platform/globalinfo.h"
+#include "platform/guiqtadaptcore.h"
+#include "platform/nlogger.h"
+
+#include <QCoreApplication>
+#include <QTranslator>
+
+#include <qgui/records_window.h>
+
+GlobalConfig* GlobalConfig::getInstance()
+{
+    static GlobalConfig* instance = new GlobalConfig; // lives as long as the process
+    return instance;
+}
+
+GlobalConfig::GlobalConfig(QObject* parent)
+    : QObject(parent)
+{
+    m_defaultFont.setPixelSize(16);
+    GlobalInfo::instance()->setLocale(m_locale);
+}
+
+void GlobalConfig::setLocale(unsigned lang)
+{
+    if (lang == 1) {
+        if (m_translator && m_translatorInstalled) {
+            QCoreApplication::removeTranslator(m_translator);
+            m_translatorInstalled = false;
+        }
+        setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
+        return;
+    }
+    if (!m_translator) {
+        m_translator = new QTranslator(this);
+        if (!m_translator->load(QStringLiteral(":/ts/halvex.qm")))
+            NLog::NLogger::instance()->logger()->warn("translation \":/ts/halvex.qm\" not loaded");
+    }
+    if (!m_translatorInstalled && QCoreApplication::instance() && !m_translator->isEmpty())
+        m_translatorInstalled = QCoreApplication::installTranslator(m_translator);
+    setLocale(QLocale(QLocale::Chinese, QLocale::China));
+}
+
+void GlobalConfig::setLocale(const QLocale& locale)
+{
+    m_locale = locale;
+    GlobalInfo::instance()->setLocale(locale);
+    Q_EMIT langTokenChanged();
+}
+
+double GlobalConfig::scale()
+{
+    XQuickView* view = GuiApplication::instance() ? GuiApplication::instance()->view() : nullptr;
+    if (!view)
+        return 1.0;
+    if (!m_scaleConnected) {
+        connect(view, &XQuickView::rootItemScaleChanged, this, &GlobalConfig::scaleChanged);
+        m_scaleConnected = true;
+    }
+    return view->rootItemScale();
+}
+
+double GlobalConfig::pixelLock(double scale, double len) const
+{
+    // a length that would be drawn wider than one device pixel per unit is nudged so that
+    // rounding never loses the last pixel
+    constexpr double kFactor = 1.0;
+    if (scale > 0.0 && len > scale * kFactor)
+        return 1.0001 / scale;
+    return 1.0;
+}
+
+void GlobalConfig::saveCurveSampleSearchTime(unsigned id, const QPair<QString, QString>& times)
+{
+    m_curveSearchTimes.insert(id, times);
+}
+
+QPair<QString, QString> GlobalConfig::getCurveSampleSearchTime(unsigned id) const
+{
+    return m_curveSearchTimes.value(id, qMakePair(QString(), QString()));
+}
+
+int GlobalConfig::setGlobalConfigue(const View_GlobalConfig* cfg)
+{
+    if (!cfg)
+        return 0;
+    if (cfg->inputMethod <= INPUT_METHOD_BOTH)
+        m_inputMethod = InputMethod(cfg->inputMethod);
+    if (cfg->scrollBarWidth > 0)
+        m_scrollBarWidth = qMin(cfg->scrollBarWidth, 200);
+    if (cfg->listRowLimit > 0)
+        m_listRowLimit = cfg->listRowLimit;
+    if (cfg->textLengthLimit > 0)
+        m_textLengthLimit = cfg->textLengthLimit;
+    if (cfg->doubleClickInterval > 0)
+        XEventFilter::getInstance()->setDoubleInterval(cfg->doubleClickInterval);
+    if (cfg->pressDistance > 0)
+        XEventFilter::getInstance()->setPressDistance(cfg->pressDistance);
+    return 0;
+}
+
+int GlobalConfig::setInterfaceConfigue(const View_InterfaceConfigue* cfg)
+{
+    if (!cfg)
+        return 0;
+    if (cfg->defaultPen.color != 0 || cfg->defaultPen.width != 0)
+        m_defaultPen = GuiQtAdapt::Core::toQPen(cfg->defaultPen);
+    if (cfg->defaultTextColor != 0)
+        m_defaultTextColor = GuiQtAdapt::Core::toQColor(cfg->defaultTextColor);
+    if (cfg->defaultBackColor != 0)
+        m_defaultBackColor = GuiQtAdapt::Core::toQColor(cfg->defaultBackColor);
+    if (cfg->selectionColor != 0)
+        m_selectionColor = GuiQtAdapt::Core::toQColor(cfg->selectionColor);
+    if (cfg->highlightColor != 0)
+        m_highlightColor = GuiQtAdapt::Core::toQColor(cfg->highlightColor);
+    if (cfg->defaultFont)
+        m_defaultFont = GuiQtAdapt::Core::toQFont(cfg->defaultFont);
+    Q_EMIT interfaceChanged();
+    return 0;
+}

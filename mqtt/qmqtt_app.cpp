@@ -1,0 +1,245 @@
+#include "mqtt/qmqtt_app.h"
+
+#include "mqtt/xmqttclient.h"
+#include "platform/logiclayercaller.h"
+#include "platform/nlogger.h"
+
+#include <qgui/events.h>
+#include <qgui/mqtt.h>
+
+#include <QCoreApplication>
+#include <QNetworkConfigurationManager>
+#include <QThread>
+
+namespace MQTT {
+
+namespace {
+
+constexpr unsigned kMaxHandle = 0xFFFFFFFFu;
+
+QMutex g_instanceMutex;
+QMqtt_App* g_instance = nullptr;
+
+/* Sends an event to the logic layer on the GUI thread. Called on any thread (Paho's
+ * included); carries values only. */
+void postEvent(unsigned handle, int code, int value)
+{
+    auto send = [handle, code, value] {
+        // View_EvtMqttState and View_EvtMqttError share this layout
+        View_EvtMqttState data{handle, value};
+        LogicLayerCaller::call(handle, code, &data);
+    };
+    if (QCoreApplication* app = QCoreApplication::instance())
+        QMetaObject::invokeMethod(app, send, Qt::QueuedConnection);
+    else
+        send(); // no event loop at all: nothing better than the calling thread
+}
+
+} // namespace
+
+QMqtt_App* QMqtt_App::instance()
+{
+    QMutexLocker lock(&g_instanceMutex);
+    if (!g_instance) {
+        g_instance = new QMqtt_App;
+        qAddPostRoutine(&QMqtt_App::destroyInstance);
+    }
+    return g_instance;
+}
+
+void QMqtt_App::destroyInstance()
+{
+    QMqtt_App* app = nullptr;
+    {
+        QMutexLocker lock(&g_instanceMutex);
+        app = g_instance;
+        g_instance = nullptr;
+    }
+    if (app) {
+        qRemovePostRoutine(&QMqtt_App::destroyInstance);
+        delete app;
+    }
+}
+
+QMqtt_App::QMqtt_App() = default;
+
+QMqtt_App::~QMqtt_App()
+{
+    QMutexLocker lock(&m_mutex);
+    for (XMqttClient* c : qAsConst(m_clients))
+        destroy(c);
+    m_clients.clear();
+    delete m_network;
+}
+
+XMqttClient* QMqtt_App::create(unsigned handle)
+{
+    QCoreApplication* app = QCoreApplication::instance();
+    if (app && !m_network) {
+        QT_WARNING_PUSH
+        QT_WARNING_DISABLE_DEPRECATED
+        m_network = new QNetworkConfigurationManager;
+        QT_WARNING_POP
+        if (m_network->thread() != app->thread())
+            m_network->moveToThread(app->thread());
+    }
+
+    auto* c = new XMqttClient;
+    c->setId(handle);
+    if (app && c->thread() != app->thread())
+        c->moveToThread(app->thread());
+    // Direct: runs on the thread that changed the state (often Paho's), while the client
+    // certainly exists; only values travel on to the GUI thread.
+    connect(c, &XMqttClient::stateChanged, c,
+            [handle](XMqttClient::ClientState s) { postEvent(handle, EVT_MQTT_STATE, int(s)); },
+            Qt::DirectConnection);
+    connect(c, &XMqttClient::errorChanged, c,
+            [handle, c] { postEvent(handle, EVT_MQTT_ERROR, int(c->error())); },
+            Qt::DirectConnection);
+    if (m_network) {
+        QT_WARNING_PUSH
+        QT_WARNING_DISABLE_DEPRECATED
+        connect(m_network, &QNetworkConfigurationManager::onlineStateChanged, c, [this, c](bool online) {
+            QMutexLocker lock(&m_mutex);
+            c->onlineStateChanged(online);
+        });
+        QT_WARNING_POP
+    }
+    m_clients.insert(handle, c);
+    return c;
+}
+
+void QMqtt_App::destroy(XMqttClient* c)
+{
+    QObject::disconnect(c, nullptr, nullptr, nullptr); // no events from a client on its way out
+    c->disconnectFromHost(true);
+    if (c->thread() == QThread::currentThread())
+        delete c;
+    else
+        c->deleteLater();
+}
+
+unsigned QMqtt_App::createClient(unsigned handle)
+{
+    QMutexLocker lock(&m_mutex);
+    if (handle == 0) {
+        handle = 1;
+        while (m_clients.contains(handle)) {
+            if (handle == kMaxHandle)
+                return 0; // every handle in use
+            ++handle;
+        }
+    } else if (m_clients.contains(handle)) {
+        return 0;
+    }
+    create(handle);
+    return handle;
+}
+
+void QMqtt_App::connectClient(unsigned handle, const QString& host, quint16 port, const QString& user,
+                              const QString& password, const QString& clientId, int keepAlive,
+                              int version, bool longConnect, bool secure, quint16 word)
+{
+    Q_UNUSED(word) // reserved with the logic layer
+    QMutexLocker lock(&m_mutex);
+    if (handle == 0) {
+        NLog::NLogger::instance()->logger()->warn("Mqtt_Connect: handle 0 is not a client");
+        return;
+    }
+    XMqttClient* c = m_clients.value(handle);
+    if (!c)
+        c = create(handle);
+    c->setHostname(host);
+    c->setPort(port);
+    c->setUsername(user);
+    c->setPassword(password);
+    if (!clientId.isEmpty())
+        c->setClientId(clientId);
+    if (longConnect) {
+        c->setAutoKeepAlive(true);
+        c->setKeepAlive(keepAlive > 0 ? keepAlive : XMqttClient::kDefaultLongKeepAlive);
+    } else {
+        c->setAutoKeepAlive(false);
+        c->setKeepAlive(keepAlive);
+    }
+    c->setLongConnect(longConnect);
+    c->setSecure(secure);
+    c->setProtocolVersion(version);
+    c->connectToHost();
+}
+
+void QMqtt_App::disconnectClient(unsigned handle, bool force)
+{
+    QMutexLocker lock(&m_mutex);
+    if (XMqttClient* c = m_clients.value(handle))
+        c->disconnectFromHost(force);
+}
+
+void QMqtt_App::reconnectClient(unsigned handle)
+{
+    QMutexLocker lock(&m_mutex);
+    if (XMqttClient* c = m_clients.value(handle))
+        c->connectToHost();
+}
+
+int QMqtt_App::checkState(unsigned handle)
+{
+    QMutexLocker lock(&m_mutex);
+    XMqttClient* c = m_clients.value(handle);
+    return c ? int(c->state()) : -1;
+}
+
+void QMqtt_App::setVersion(unsigned handle, int version)
+{
+    QMutexLocker lock(&m_mutex);
+    if (XMqttClient* c = m_clients.value(handle))
+        c->setProtocolVersion(version);
+}
+
+int QMqtt_App::publish(unsigned handle, const char* topic, const char* payload, int qos, bool retain)
+{
+    QMutexLocker lock(&m_mutex);
+    XMqttClient* c = m_clients.value(handle);
+    int rc = -1;
+    if (c && topic) {
+        rc = c->publish(QByteArray::fromRawData(topic, int(qstrlen(topic))),
+                        payload ? QByteArray::fromRawData(payload, int(qstrlen(payload))) : QByteArray(),
+                        qos, retain);
+    }
+    if (rc == -1) {
+        NLog::NLogger::instance()->logger()->warn("publish msg fail: topic:{}, msg:{}",
+                                                  topic ? topic : "(null)",
+                                                  payload ? payload : "(null)");
+    }
+    return rc;
+}
+
+std::string QMqtt_App::clientId(unsigned handle)
+{
+    QMutexLocker lock(&m_mutex);
+    XMqttClient* c = m_clients.value(handle);
+    return c ? c->clientId().toStdString() : std::string();
+}
+
+bool QMqtt_App::removeClient(unsigned handle)
+{
+    QMutexLocker lock(&m_mutex);
+    XMqttClient* c = m_clients.take(handle);
+    if (!c)
+        return false;
+    destroy(c);
+    return true;
+}
+
+int QMqtt_App::clientCount()
+{
+    QMutexLocker lock(&m_mutex);
+    return m_clients.size();
+}
+
+XMqttClient* QMqtt_App::client(unsigned handle)
+{
+    return m_clients.value(handle);
+}
+
+} // namespace MQTT

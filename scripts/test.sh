@@ -1,0 +1,23 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds, and runs every test under Xvfb (real OpenGL
+# scene graph through Mesa). Servers used by the tests (PostgreSQL, MariaDB,
+# mosquitto) are started by the tests themselves on loopback.
+#   scripts/test.sh [ctest arguments]        e.g. scripts/test.sh -R tst_encoding
+#   QGUI_ASAN=1 scripts/test.sh              the same under AddressSanitizer (build-asan/)
+set -euo pipefail
+here=$(cd "$(dirname "$0")/.." && pwd)
+"$here/scripts/install-deps.sh"
+if [ "${QGUI_ASAN:-0}" = "1" ]; then
+  export QGUI_BUILD_DIR=${QGUI_BUILD_DIR:-$here/build-asan}
+  "$here/scripts/build.sh" -DQGUI_ASAN=ON -DQGUI_BUILD_BENCH=OFF
+  export ASAN_OPTIONS=${ASAN_OPTIONS:-detect_leaks=1}
+  export LSAN_OPTIONS=${LSAN_OPTIONS:-suppressions=$here/tests/lsan.supp:print_suppressions=0}
+else
+  "$here/scripts/build.sh"
+fi
+build=${QGUI_BUILD_DIR:-$here/build}
+export XDG_RUNTIME_DIR=$(mktemp -d)
+chmod 700 "$XDG_RUNTIME_DIR"
+export QT_QPA_PLATFORM=xcb
+cd "$build"
+xvfb-run -a -s "-screen 0 1280x1024x24" ctest --output-on-failure -j${QGUI_TEST_JOBS:-2} "$@"

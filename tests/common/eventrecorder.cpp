@@ -1,0 +1,105 @@
+#include "eventrecorder.h"
+
+#include "platform/logiclayercaller.h"
+
+#include <cstring>
+
+
+namespace {
+EventRecorder* g_current = nullptr;
+}
+
+int EventRecorder::Event::intAt(int index) const
+{
+    int v = 0;
+    if (payload.size() >= int(sizeof(int)) * (index + 1))
+        std::memcpy(&v, payload.constData() + sizeof(int) * index, sizeof(int));
+    return v;
+}
+
+EventRecorder::EventRecorder() = default;
+
+EventRecorder::~EventRecorder()
+{
+    if (g_current == this) {
+        LogicLayerCaller::setCallBack(nullptr);
+        g_current = nullptr;
+    }
+}
+
+void EventRecorder::install()
+{
+    g_current = this;
+    LogicLayerCaller::setCallBack(&EventRecorder::callBack);
+}
+
+int EventRecorder::payloadSize(int code)
+{
+    switch (code) {
+    case 1: return 2 * sizeof(int);               // x, y
+    case 4: return sizeof(double);                // slider value
+    case 259: case 260: case 263: return sizeof(int);
+    case 513: return sizeof(int);
+    case 519: return 2 * sizeof(unsigned short);
+    case 769: case 770: case 1281: case 2306: return -1;
+    case 1542: case 1544: return sizeof(int);
+    case 1793: case 1794: return sizeof(unsigned) + sizeof(int);
+    case 2049: case 2052: return sizeof(int);
+    case 2305: return 2 * sizeof(unsigned);
+    case 2561: return 2 * sizeof(int);
+    default: return 0;
+    }
+}
+
+ErrRet EventRecorder::callBack(unsigned id, int code, void* data)
+{
+    if (!g_current)
+        return 0;
+    Event e;
+    e.id = id;
+    e.code = code;
+    e.nullData = data == nullptr;
+    if (data) {
+        int n = payloadSize(code);
+        if (n < 0)
+            e.payload = QByteArray(static_cast<const char*>(data));
+        else if (n > 0)
+            e.payload = QByteArray(static_cast<const char*>(data), n);
+    }
+    QMutexLocker lock(&g_current->m_mutex);
+    g_current->m_events.append(e);
+    return 0;
+}
+
+QList<EventRecorder::Event> EventRecorder::events() const
+{
+    QMutexLocker lock(&m_mutex);
+    return m_events;
+}
+
+QList<EventRecorder::Event> EventRecorder::eventsWithCode(int code) const
+{
+    QList<Event> out;
+    for (const Event& e : events()) {
+        if (e.code == code)
+            out.append(e);
+    }
+    return out;
+}
+
+int EventRecorder::count(int code) const
+{
+    QMutexLocker lock(&m_mutex);
+    if (code < 0)
+        return m_events.size();
+    int n = 0;
+    for (const Event& e : m_events)
+        n += e.code == code ? 1 : 0;
+    return n;
+}
+
+void EventRecorder::clear()
+{
+    QMutexLocker lock(&m_mutex);
+    m_events.clear();
+}

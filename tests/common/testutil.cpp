@@ -1,0 +1,37 @@
+#include "testutil.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace TestUtil {
+
+QString helperPath(const QString& subdir, const QString& name)
+{
+    QString build = qEnvironmentVariable("QGUI_BUILD_DIR");
+    if (build.isEmpty())
+        build = QCoreApplication::applicationDirPath() + QStringLiteral("/../..");
+    return QDir(build).filePath(subdir + QLatin1Char('/') + name);
+}
+
+bool waitForFrame(QQuickView* view, int timeoutMs)
+{
+    if (!view->isVisible())
+        view->show();
+    if (!QTest::qWaitForWindowExposed(view, timeoutMs))
+        return false;
+    QSignalSpy spy(view, &QQuickWindow::frameSwapped);
+    view->update();
+    return spy.count() > 0 || spy.wait(timeoutMs);
+}
+
+QPoint sceneCenter(const QQuickItem* item)
+{
+    const QPointF p = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+    return p.toPoint();
+}
+
+} // namespace TestUtil

@@ -1,0 +1,450 @@
+// The database service against real engines: SQLite files, and PostgreSQL and MariaDB
+// servers started for the test on loopback.
+#include <QtTest>
+
+#include <qgui/xdatabase.h>
+
+#include "common/mariadbserver.h"
+#include "common/pgserver.h"
+
+#include <QDir>
+#include <QSqlDatabase>
+#include <QTemporaryDir>
+
+#include <map>
+#include <memory>
+#include <stdexcept>
+
+using xDatabase::DbConnInfo;
+using xDatabase::DbQueryResult;
+
+namespace {
+
+enum DbNo : unsigned { kSqlite = 1, kPostgres = 2, kMariaDb = 3, kNotADatabase = 4, kBadDriver = 5 };
+
+/* Stands in for the logic layer's result callback. */
+struct Results {
+    QList<DbQueryResult> list;
+    int offThread = 0; ///< callbacks that did not run on the owner (main) thread
+    void clear() { list.clear(); }
+    int count(unsigned id) const
+    {
+        int n = 0;
+        for (const auto& r : list)
+            n += r.queryId == id;
+        return n;
+    }
+    const DbQueryResult* find(unsigned id) const
+    {
+        for (const auto& r : list)
+            if (r.queryId == id)
+                return &r;
+        return nullptr;
+    }
+};
+Results g_results;
+
+void onResult(DbQueryResult* r)
+{
+    if (QThread::currentThread() != QCoreApplication::instance()->thread())
+        ++g_results.offThread;
+    g_results.list.append(*r);
+}
+
+bool waitForResults(int n, int timeoutMs = 60000)
+{
+    QElapsedTimer t;
+    t.start();
+    while (g_results.list.size() < n && t.elapsed() < timeoutMs)
+        QTest::qWait(5);
+    return g_results.list.size() >= n;
+}
+
+DbQueryResult sync(unsigned db, const QByteArray& sql, bool read = false)
+{
+    return xDatabase::db_querySync(db, sql.constData(), read);
+}
+
+QString describe(const DbQueryResult& r)
+{
+    return QStringLiteral("type %1 code %2: %3").arg(r.errorType).arg(QString::fromStdString(r.errorCode),
+                                                                      QString::fromStdString(r.errorText));
+}
+
+int poolThreads()
+{
+    int n = 0;
+    for (const QString& t : QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QFile comm(QStringLiteral("/proc/self/task/%1/comm").arg(t));
+        if (comm.open(QIODevice::ReadOnly) && comm.readAll().startsWith("Thread (pooled)"))
+            ++n;
+    }
+    return n;
+}
+
+} // namespace
+
+class tst_Database : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void read_returns_rows_in_column_order_with_null_as_empty_data() { drivers(); }
+    void read_returns_rows_in_column_order_with_null_as_empty();
+    void failed_statement_leaves_the_others_of_its_request_committed_data() { drivers(); }
+    void failed_statement_leaves_the_others_of_its_request_committed();
+    void requests_are_answered_in_queue_order_data() { drivers(); }
+    void requests_are_answered_in_queue_order();
+    void the_8193rd_waiting_request_of_a_kind_is_refused_at_once_data() { drivers(); }
+    void the_8193rd_waiting_request_of_a_kind_is_refused_at_once();
+    void synchronous_calls_overtake_queued_requests_data() { drivers(); }
+    void synchronous_calls_overtake_queued_requests();
+    void server_killed_mid_batch_answers_every_request_once_and_recovers_data();
+    void server_killed_mid_batch_answers_every_request_once_and_recovers();
+
+    void unknown_database_numbers_answer_nothing();
+    void null_sql_throws_and_queues_nothing();
+    void large_and_invalid_utf8_statements();
+    void broken_connections_answer_every_request_with_an_error();
+
+    void close_drops_waiting_requests_and_ends_threads_and_connections();
+
+private:
+    void drivers();
+    /** Skips the row when its server is not running. */
+    bool available(unsigned db);
+    QByteArray idColumn(unsigned db) const;
+
+    QTemporaryDir m_dir;
+    std::unique_ptr<PgServer> m_pg;
+    std::unique_ptr<MariaDbServer> m_maria;
+    QString m_pgSkip;
+    QString m_mariaSkip;
+};
+
+void tst_Database::drivers()
+{
+    QTest::addColumn<unsigned>("db");
+    QTest::newRow("sqlite") << unsigned(kSqlite);
+    QTest::newRow("postgres") << unsigned(kPostgres);
+    QTest::newRow("mariadb") << unsigned(kMariaDb);
+}
+
+bool tst_Database::available(unsigned db)
+{
+    if (db == kPostgres && !m_pgSkip.isEmpty())
+        return false;
+    if (db == kMariaDb && !m_mariaSkip.isEmpty())
+        return false;
+    return true;
+}
+
+#define REQUIRE_SERVER(db)                                                                         \
+    do {                                                                                           \
+        if (!available(db))                                                                        \
+            QSKIP(qPrintable((db) == kPostgres ? m_pgSkip : m_mariaSkip));                         \
+    } while (0)
+
+QByteArray tst_Database::idColumn(unsigned db) const
+{
+    switch (db) {
+    case kPostgres: return "id serial primary key";
+    case kMariaDb: return "id int auto_increment primary key";
+    default: return "id integer primary key autoincrement";
+    }
+}
+
+void tst_Database::initTestCase()
+{
+    QVERIFY(m_dir.isValid());
+    m_pg.reset(new PgServer);
+    m_pgSkip = m_pg->unavailableReason();
+    if (m_pgSkip.isEmpty() && !m_pg->start())
+        m_pgSkip = QStringLiteral("PostgreSQL did not start: ") + m_pg->lastError();
+    m_maria.reset(new MariaDbServer);
+    m_mariaSkip = m_maria->unavailableReason();
+    if (m_mariaSkip.isEmpty() && !m_maria->start(60000))
+        m_mariaSkip = QStringLiteral("MariaDB did not start: ") + m_maria->lastError();
+
+    QFile junk(m_dir.filePath("junk.db"));
+    QVERIFY(junk.open(QIODevice::WriteOnly));
+    junk.write(QByteArray(8192, 'j')); // not a database: the WAL switch fails
+    junk.close();
+
+    std::list<DbConnInfo> infos;
+    infos.push_back({kSqlite, "QSQLITE", "", "", "", m_dir.filePath("main db.sqlite").toStdString(), -1});
+    infos.push_back({kPostgres, "QPSQL", "127.0.0.1", "postgres", "", "postgres", m_pg->port()});
+    infos.push_back({kMariaDb, "QMYSQL", "127.0.0.1", "root", "", "qgui", m_maria->port()});
+    infos.push_back({kNotADatabase, "QSQLITE", "", "", "", m_dir.filePath("junk.db").toStdString(), -1});
+    infos.push_back({kBadDriver, "QNOPE\xff\xfe", "h\xc3", "u\xff", "p", "d", 1});
+    xDatabase::db_init(infos, &onResult);
+}
+
+void tst_Database::init()
+{
+    g_results.clear();
+}
+
+void tst_Database::cleanup()
+{
+    QCOMPARE(g_results.offThread, 0);
+}
+
+void tst_Database::read_returns_rows_in_column_order_with_null_as_empty()
+{
+    QFETCH(unsigned, db);
+    REQUIRE_SERVER(db);
+    sync(db, "drop table if exists t_read");
+    QVERIFY(sync(db, "create table t_read (a int, b varchar(20), c varchar(20))").errorType == 0);
+    std::list<std::string> fill{"insert into t_read values (1, 'one', 'x')",
+                                "insert into t_read values (2, NULL, '')",
+                                "insert into t_read values (3, 'drei', 'z')"};
+    QCOMPARE(xDatabase::db_querySync(db, fill).errorType, 0);
+
+    xDatabase::db_query(db, 7, "select c, a, b from t_read order by a", true);
+    QVERIFY(waitForResults(1));
+    const DbQueryResult& r = g_results.list.first();
+    QCOMPARE(r.queryId, 7u);
+    QVERIFY2(r.errorType == 0, qPrintable(describe(r)));
+    QCOMPARE(r.rows.size(), size_t(3));
+    const std::vector<std::string> first{"x", "1", "one"};
+    const std::vector<std::string> second{"", "2", ""}; // NULL and empty text look the same
+    QVERIFY(r.rows[0] == first);
+    QVERIFY(r.rows[1] == second);
+    QCOMPARE(r.rows[2][2], std::string("drei"));
+
+    const DbQueryResult empty = sync(db, "select a from t_read where a > 10", true);
+    QCOMPARE(empty.errorType, 0);
+    QVERIFY(empty.rows.empty());
+}
+
+void tst_Database::failed_statement_leaves_the_others_of_its_request_committed()
+{
+    QFETCH(unsigned, db);
+    REQUIRE_SERVER(db);
+    sync(db, "drop table if exists t_batch");
+    QVERIFY(sync(db, "create table t_batch (v int)").errorType == 0);
+    std::list<std::string> sqls{"insert into t_batch values (1)", "insert into no_such_table values (2)",
+                                "insert into t_batch values (3)"};
+    xDatabase::db_query(db, 11, sqls);
+    QVERIFY(waitForResults(1));
+    const DbQueryResult& r = g_results.list.first();
+    QCOMPARE(r.queryId, 11u);
+    QCOMPARE(r.errorType, 2); // statement error
+    QVERIFY(!r.errorText.empty());
+
+    const DbQueryResult rows = sync(db, "select v from t_batch order by v", true);
+    QVERIFY2(rows.errorType == 0, qPrintable(describe(rows)));
+    QCOMPARE(rows.rows.size(), size_t(2));
+    QCOMPARE(rows.rows[0][0], std::string("1"));
+    QCOMPARE(rows.rows[1][0], std::string("3"));
+}
+
+void tst_Database::requests_are_answered_in_queue_order()
+{
+    QFETCH(unsigned, db);
+    REQUIRE_SERVER(db);
+    sync(db, "drop table if exists t_order");
+    QVERIFY(sync(db, "create table t_order (v int)").errorType == 0);
+    const int n = 100;
+    for (int i = 0; i < n; ++i) {
+        xDatabase::db_query(db, 1000 + i, QByteArray("select ").append(QByteArray::number(i)).constData(), true);
+        xDatabase::db_query(db, 2000 + i,
+                            QByteArray("insert into t_order values (").append(QByteArray::number(i)).append(")").constData(),
+                            false);
+    }
+    QVERIFY(waitForResults(2 * n));
+    int nextRead = 0, nextWrite = 0;
+    for (const DbQueryResult& r : qAsConst(g_results.list)) {
+        QVERIFY2(r.errorType == 0, qPrintable(describe(r)));
+        if (r.queryId < 2000) {
+            QCOMPARE(r.queryId, unsigned(1000 + nextRead));
+            QCOMPARE(r.rows.at(0).at(0), std::to_string(nextRead));
+            ++nextRead;
+        } else {
+            QCOMPARE(r.queryId, unsigned(2000 + nextWrite++));
+        }
+    }
+    const DbQueryResult written = sync(db, "select v from t_order", true);
+    QCOMPARE(written.rows.size(), size_t(n));
+}
+
+void tst_Database::the_8193rd_waiting_request_of_a_kind_is_refused_at_once()
+{
+    QFETCH(unsigned, db);
+    REQUIRE_SERVER(db);
+    sync(db, "drop table if exists t_full");
+    QVERIFY(sync(db, "create table t_full (v int)").errorType == 0);
+    // No event loop runs in between: the first request of each kind is taken at once and
+    // 8192 wait, so the next one is the 8193rd waiting.
+    const unsigned n = 1 + 8192 + 1;
+    for (unsigned i = 0; i < n; ++i)
+        xDatabase::db_query(db, i, "select 1", true);
+    QCOMPARE(g_results.list.size(), 1); // the refusal, delivered before db_query returned
+    QCOMPARE(g_results.list.first().queryId, n - 1);
+    QCOMPARE(g_results.list.first().errorText, std::string("too many sqls"));
+    QVERIFY(g_results.list.first().errorType != 0);
+
+    for (unsigned i = 0; i < n; ++i) // writes are counted apart from reads
+        xDatabase::db_query(db, 100000 + i, "insert into t_full values (1)", false);
+    QCOMPARE(g_results.list.size(), 2);
+    QCOMPARE(g_results.list.last().queryId, 100000 + n - 1);
+    QCOMPARE(g_results.list.last().errorText, std::string("too many sqls"));
+
+    QVERIFY(waitForResults(2 * int(n), 120000));
+    QCOMPARE(g_results.list.size(), 2 * int(n));
+    for (const DbQueryResult& r : qAsConst(g_results.list))
+        QCOMPARE(g_results.count(r.queryId), 1);
+    QCOMPARE(sync(db, "select count(*) from t_full", true).rows.at(0).at(0), std::to_string(n - 1));
+}
+
+void tst_Database::synchronous_calls_overtake_queued_requests()
+{
+    QFETCH(unsigned, db);
+    REQUIRE_SERVER(db);
+    sync(db, "drop table if exists t_sync");
+    QVERIFY(sync(db, "create table t_sync (" + idColumn(db) + ", tag varchar(10))").errorType == 0);
+    const int n = 200;
+    for (int i = 0; i < n; ++i)
+        xDatabase::db_query(db, i, "insert into t_sync (tag) values ('queued')", false);
+    // Only the first request has started; the others wait for the owner's event loop.
+    const DbQueryResult s = sync(db, "insert into t_sync (tag) values ('sync')");
+    QVERIFY2(s.errorType == 0, qPrintable(describe(s)));
+    const DbQueryResult seen = sync(db, "select count(*) from t_sync", true);
+    QVERIFY(std::stoi(seen.rows.at(0).at(0)) <= 2);
+    QVERIFY(waitForResults(n));
+    const DbQueryResult before = sync(db, "select count(*) from t_sync where id < (select id from t_sync where tag = 'sync')", true);
+    QVERIFY2(before.errorType == 0, qPrintable(describe(before)));
+    QVERIFY(std::stoi(before.rows.at(0).at(0)) <= 1);
+}
+
+void tst_Database::server_killed_mid_batch_answers_every_request_once_and_recovers_data()
+{
+    QTest::addColumn<unsigned>("db");
+    QTest::newRow("postgres") << unsigned(kPostgres);
+    QTest::newRow("mariadb") << unsigned(kMariaDb);
+}
+
+void tst_Database::server_killed_mid_batch_answers_every_request_once_and_recovers()
+{
+    QFETCH(unsigned, db);
+    REQUIRE_SERVER(db);
+    ServerProcess* server = db == kPostgres ? static_cast<ServerProcess*>(m_pg.get()) : m_maria.get();
+    sync(db, "drop table if exists t_kill");
+    QVERIFY(sync(db, "create table t_kill (v int)").errorType == 0);
+    const QByteArray pause = db == kPostgres ? "select pg_sleep(0.01)" : "select sleep(0.01)";
+
+    const int writes = 200;
+    for (int i = 0; i < writes; ++i) {
+        std::list<std::string> sqls{"insert into t_kill values (" + std::to_string(i) + ")", pause.toStdString()};
+        xDatabase::db_query(db, i, sqls);
+    }
+    QVERIFY(waitForResults(1)); // the first batch is done, the second (199 requests) runs
+    QTest::qWait(300);
+    server->kill();
+    const int reads = 20;
+    for (int i = 0; i < reads; ++i)
+        xDatabase::db_query(db, 1000 + i, "select count(*) from t_kill", true);
+    QVERIFY(waitForResults(writes + reads, 120000));
+    QTest::qWait(100);
+    QCOMPARE(g_results.list.size(), writes + reads); // exactly one answer each
+    int committed = 0, failed = 0;
+    for (const DbQueryResult& r : qAsConst(g_results.list)) {
+        QCOMPARE(g_results.count(r.queryId), 1);
+        if (r.queryId < 1000)
+            (r.errorType == 0 ? committed : failed)++;
+    }
+    QVERIFY2(failed > 0, "the server was killed after the batch");
+    QVERIFY(committed > 0);
+
+    QVERIFY2(server->start(60000), qPrintable(server->lastError()));
+    g_results.clear();
+    xDatabase::db_query(db, 5000, "insert into t_kill values (-1)", false);
+    xDatabase::db_query(db, 5001, "select count(*) from t_kill where v >= 0", true);
+    QVERIFY(waitForResults(2));
+    for (const DbQueryResult& r : qAsConst(g_results.list))
+        QVERIFY2(r.errorType == 0, qPrintable(describe(r)));
+    // Every request reported as done was kept (one more may have committed unseen).
+    const int rows = std::stoi(g_results.find(5001)->rows.at(0).at(0));
+    QVERIFY2(rows >= committed && rows <= committed + 1,
+             qPrintable(QStringLiteral("%1 rows, %2 reported").arg(rows).arg(committed)));
+}
+
+void tst_Database::unknown_database_numbers_answer_nothing()
+{
+    xDatabase::db_query(99, 1, "select 1", true);
+    std::list<std::string> sqls{"select 1"};
+    xDatabase::db_query(99, 2, sqls);
+    const DbQueryResult r = xDatabase::db_querySync(99, "select 1", true);
+    QCOMPARE(r.queryId, 0u);
+    QCOMPARE(r.errorType, 0);
+    QVERIFY(r.errorCode.empty() && r.errorText.empty() && r.rows.empty());
+    QVERIFY(xDatabase::db_querySync(99, sqls).rows.empty());
+    QTest::qWait(200);
+    QCOMPARE(g_results.list.size(), 0);
+}
+
+void tst_Database::null_sql_throws_and_queues_nothing()
+{
+    QVERIFY_EXCEPTION_THROWN(xDatabase::db_query(kSqlite, 1, nullptr, true), std::logic_error);
+    QVERIFY_EXCEPTION_THROWN(xDatabase::db_querySync(kSqlite, nullptr, false), std::logic_error);
+    QTest::qWait(200);
+    QCOMPARE(g_results.list.size(), 0);
+}
+
+void tst_Database::large_and_invalid_utf8_statements()
+{
+    sync(kSqlite, "drop table if exists t_big");
+    QVERIFY(sync(kSqlite, "create table t_big (v text)").errorType == 0);
+    const QByteArray big(1 << 20, 'b');
+    xDatabase::db_query(kSqlite, 1, ("insert into t_big values ('" + big + "')").constData(), false);
+    xDatabase::db_query(kSqlite, 2, "select length(v) from t_big", true);
+    xDatabase::db_query(kSqlite, 3, "select 'a\xff\xfez'", true); // replaced, not rejected
+    xDatabase::db_query(kSqlite, 4, "this is not sql", true);
+    QVERIFY(waitForResults(4));
+    QCOMPARE(g_results.find(1)->errorType, 0);
+    QCOMPARE(g_results.find(2)->rows.at(0).at(0), std::to_string(1 << 20));
+    QCOMPARE(QString::fromStdString(g_results.find(3)->rows.at(0).at(0)), QStringLiteral("a\uFFFD\uFFFDz"));
+    QCOMPARE(g_results.find(4)->errorType, 2);
+}
+
+void tst_Database::broken_connections_answer_every_request_with_an_error()
+{
+    // A file that is not a database (its WAL switch fails, it is used all the same) and a
+    // driver that does not exist: every request still gets its one answer.
+    for (unsigned db : {unsigned(kNotADatabase), unsigned(kBadDriver)}) {
+        xDatabase::db_query(db, db * 10 + 1, "select 1", true);
+        xDatabase::db_query(db, db * 10 + 2, "create table x (v int)", false);
+    }
+    QVERIFY(waitForResults(4));
+    QTest::qWait(100);
+    QCOMPARE(g_results.list.size(), 4);
+    for (const DbQueryResult& r : qAsConst(g_results.list))
+        QVERIFY2(r.errorType != 0 && !r.errorText.empty(), qPrintable(describe(r)));
+    QCOMPARE(g_results.find(kBadDriver * 10 + 1)->errorType, 1); // connection error
+    QVERIFY(xDatabase::db_querySync(kBadDriver, "select 1", true).errorType != 0);
+}
+
+void tst_Database::close_drops_waiting_requests_and_ends_threads_and_connections()
+{
+    for (int i = 0; i < 100; ++i)
+        xDatabase::db_query(kSqlite, i, "select 1", true);
+    QVERIFY(poolThreads() > 0);
+    xDatabase::db_close();
+    QVERIFY(g_results.list.size() <= 1); // at most the request that was running
+    QTest::qWait(300);
+    QVERIFY(g_results.list.size() <= 1);
+    QCOMPARE(poolThreads(), 0);
+    for (const QString& name : QSqlDatabase::connectionNames())
+        QVERIFY2(!name.startsWith(QLatin1String("CNM0X")), qPrintable(name));
+    xDatabase::db_query(kSqlite, 500, "select 1", true); // closed: ignored
+    QVERIFY(xDatabase::db_querySync(kSqlite, "select 1", true).rows.empty());
+    QTest::qWait(100);
+    QVERIFY(g_results.list.size() <= 1);
+}
+
+QTEST_GUILESS_MAIN(tst_Database)
+#include "tst_database.moc"
