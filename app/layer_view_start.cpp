@@ -9,7 +9,11 @@
 #include "config/globalconfig.h"
 #include "config/qmltypes.h"
 #include "config/xeventfilter.h"
+#include "app/imagegraber.h"
 #include "platform/logiclayercaller.h"
+#include "views/qmlwindowmanage.h"
+#include "views/viewmanage.h"
+#include "views/xqmlcomponentmanage.h"
 
 #include <QIcon>
 #include <QQuickWindow>
@@ -91,6 +95,10 @@ int View_MainThreadLoop(int argc, char** argv, const _Main_CallBacks* callbacks)
     app->setView(view.get());
     view->setXResizeMode(XQuickView::SizeRootObjectToViewFirst);
     view->installEventFilter(XEventFilter::getInstance());
+    XQmlComponentManage::getInstance()->setEngine(view->engine());
+    ViewManage* vm = ViewManage::getInstance(); // made before any logic-layer call can reach it
+    ImageGraber::instance()->setWindowResolver(
+        [vm](unsigned windowId) { return vm->windowManage()->getWindowObj(windowId); });
     app->init();
     LogicLayerCaller::setCallBack(callbacks->event);
     FontMange::getInstance()->loadDefaultFont();
@@ -107,7 +115,10 @@ int View_MainThreadLoop(int argc, char** argv, const _Main_CallBacks* callbacks)
         result = app->exec();
     }
 
-    // 18.
+    // 18. the registry's items go first, while their scene and engine still exist
+    ImageGraber::instance()->setWindowResolver(nullptr);
+    ViewManage::destroyInstance();
+    XQmlComponentManage::getInstance()->setEngine(nullptr);
     app->setView(nullptr);
     view.reset();
     app.reset();

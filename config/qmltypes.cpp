@@ -5,6 +5,11 @@
 #include "app/guishell.h"
 #include "platform/xoverlay.h"
 #include "platform/xpopup.h"
+#include "xcomponents/qquick/lighterpopup.h"
+#include "xcomponents/qquick/xbasecontrol.h"
+#include "xcomponents/qquick/xinvalidfeature.h"
+#include "xcomponents/qquick/xlumodialog.h"
+#include "xcomponents/qquick/xwindow.h"
 
 #include <QtQml>
 
@@ -20,4 +25,9 @@ void registerQmlTypes()
     qmlRegisterType<GuiShell>(uri, 1, 0, "GuiShell");
     qmlRegisterType<XOverlay>(uri, 1, 0, "XOverlay");
     qmlRegisterType<XPopup>(uri, 1, 0, "XPopup");
+    qmlRegisterType<LighterPopup>(uri, 1, 0, "LighterPopup");
+    qmlRegisterType<XBaseControl>(uri, 1, 0, "XBaseControl");
+    qmlRegisterType<XWindow>(uri, 1, 0, "XWindow");
+    qmlRegisterType<XLumoDialog>(uri, 1, 0, "XLumoDialog");
+    qmlRegisterType<XInvalidFeature>(uri, 1, 0, "XInvalidFeature");
 }

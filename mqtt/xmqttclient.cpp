@@ -29,6 +29,8 @@ struct PahoWaiter {
     std::condition_variable cv;
     static void onDone(void* context, MQTTAsync_successData*) { static_cast<PahoWaiter*>(context)->finish(); }
     static void onFailed(void* context, MQTTAsync_failureData*) { static_cast<PahoWaiter*>(context)->finish(); }
+    static void onDone5(void* context, MQTTAsync_successData5*) { static_cast<PahoWaiter*>(context)->finish(); }
+    static void onFailed5(void* context, MQTTAsync_failureData5*) { static_cast<PahoWaiter*>(context)->finish(); }
     void finish()
     {
         std::lock_guard<std::mutex> lock(mutex);
@@ -139,6 +141,7 @@ void XMqttClient::connectToHost()
         return;
     }
     m_client = handle;
+    m_clientV5 = v5;
     m_context = reinterpret_cast<void*>(s_nextContext.fetch_add(1));
     {
         std::lock_guard<std::mutex> lock(s_mapMutex);
@@ -222,8 +225,13 @@ void XMqttClient::destroyMQTT(int graceMs)
         auto* waiter = new PahoWaiter;
         MQTTAsync_disconnectOptions opts = MQTTAsync_disconnectOptions_initializer;
         opts.timeout = graceMs;
-        opts.onSuccess = &PahoWaiter::onDone;
-        opts.onFailure = &PahoWaiter::onFailed;
+        if (m_clientV5) { // an MQTT 5 handle takes only the call-backs of version 5
+            opts.onSuccess5 = &PahoWaiter::onDone5;
+            opts.onFailure5 = &PahoWaiter::onFailed5;
+        } else {
+            opts.onSuccess = &PahoWaiter::onDone;
+            opts.onFailure = &PahoWaiter::onFailed;
+        }
         opts.context = waiter;
         bool answered = true;
         if (MQTTAsync_disconnect(handle, &opts) == MQTTASYNC_SUCCESS)
@@ -246,7 +254,10 @@ int XMqttClient::publish(const QByteArray& topic, const QByteArray& payload, int
     msg.qos = qos;
     msg.retained = retain ? 1 : 0;
     MQTTAsync_responseOptions ro = MQTTAsync_responseOptions_initializer;
-    ro.onFailure = &XMqttClient::onPublishFailureServer;
+    if (m_clientV5)
+        ro.onFailure5 = &XMqttClient::onPublishFailureServer5;
+    else
+        ro.onFailure = &XMqttClient::onPublishFailureServer;
     ro.context = m_context;
     return MQTTAsync_sendMessage(m_client, topic.constData(), &msg, &ro) == MQTTASYNC_SUCCESS ? 0 : -1;
 }
@@ -317,6 +328,14 @@ void XMqttClient::connectionLostServer(void* context, char* cause)
 }
 
 void XMqttClient::onPublishFailureServer(void* context, MQTTAsync_failureData* response)
+{
+    const int code = response ? response->code : MQTTASYNC_FAILURE;
+    route(context, [code](XMqttClient* c) {
+        log()->warn("mqtt client {}: a message was not delivered ({})", c->m_id, code);
+    });
+}
+
+void XMqttClient::onPublishFailureServer5(void* context, MQTTAsync_failureData5* response)
 {
     const int code = response ? response->code : MQTTASYNC_FAILURE;
     route(context, [code](XMqttClient* c) {

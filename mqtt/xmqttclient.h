@@ -121,6 +121,7 @@ private:
     static void connectedServer(void* context, char* cause);
     static void connectionLostServer(void* context, char* cause);
     static void onPublishFailureServer(void* context, MQTTAsync_failureData* response);
+    static void onPublishFailureServer5(void* context, MQTTAsync_failureData5* response);
     static int messageArrivedServer(void* context, char* topic, int topicLen, MQTTAsync_message* message);
 
     template<typename Fn>
@@ -148,6 +149,7 @@ private:
     std::atomic<bool> m_connectPending{false}; ///< a connect has not been answered yet
 
     void* m_client = nullptr;  ///< the Paho handle (MQTTAsync)
+    bool m_clientV5 = false;   ///< the handle speaks MQTT 5 (it takes the version 5 call-backs only)
     void* m_context = nullptr; ///< token of the current Paho handle in s_clients
     QByteArray m_connectUser;  ///< kept alive while Paho may read them
     QByteArray m_connectPassword;

@@ -9,6 +9,8 @@ PACKAGES=(
   build-essential cmake pkg-config ccache git
   # Qt 5.15: core modules, Quick, Controls 2, Svg, Sql drivers, Concurrent (in qtbase), Test
   qtbase5-dev qtdeclarative5-dev qtquickcontrols2-5-dev libqt5svg5-dev
+  # private headers: the button and dialog items derive from Qt Quick Templates classes
+  qtbase5-private-dev qtdeclarative5-private-dev qtquickcontrols2-5-private-dev
   libqt5sql5-sqlite libqt5sql5-mysql libqt5sql5-psql libqt5sql5-tds
   qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-layouts
   qml-module-qtquick-controls2 qml-module-qtquick-templates2 qml-module-qtquick-shapes

@@ -20,4 +20,5 @@ export XDG_RUNTIME_DIR=$(mktemp -d)
 chmod 700 "$XDG_RUNTIME_DIR"
 export QT_QPA_PLATFORM=xcb
 cd "$build"
-xvfb-run -a -s "-screen 0 1280x1024x24" ctest --output-on-failure -j${QGUI_TEST_JOBS:-2} "$@"
+# every GUI test starts its own Xvfb (see tests/CMakeLists.txt)
+ctest --output-on-failure -j${QGUI_TEST_JOBS:-2} "$@"

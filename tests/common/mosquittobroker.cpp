@@ -25,7 +25,8 @@ MosquittoBroker::MosquittoBroker(const QString& user, const QString& password)
 bool MosquittoBroker::setUp()
 {
     QByteArray conf = "listener " + QByteArray::number(port()) + " 127.0.0.1\n"
-                      "log_dest stdout\nlog_type all\nconnection_messages true\n"
+                      "log_dest file " + dir().toLocal8Bit() + "/mosquitto.log\n"
+                      "log_type all\nconnection_messages true\n"
                       "persistence false\nuser root\n";
     if (m_user.isEmpty()) {
         conf += "allow_anonymous true\n";
@@ -53,4 +54,10 @@ QString MosquittoBroker::program() const
 QStringList MosquittoBroker::arguments() const
 {
     return {QStringLiteral("-c"), dir() + QStringLiteral("/mosquitto.conf")};
+}
+
+QByteArray MosquittoBroker::log() const
+{
+    QFile f(dir() + QStringLiteral("/mosquitto.log"));
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }

@@ -2,6 +2,9 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QUuid>
 
 #include <pwd.h>
 #include <unistd.h>
@@ -68,4 +71,23 @@ QStringList PgServer::arguments() const
             QStringLiteral("-k"), dir(), QStringLiteral("-c"), QStringLiteral("listen_addresses=127.0.0.1"),
             QStringLiteral("-c"), QStringLiteral("fsync=off"), QStringLiteral("-c"),
             QStringLiteral("max_connections=40")};
+}
+
+bool PgServer::ready()
+{
+    // The port opens while the server still recovers ("the database system is starting up").
+    const QString name = QStringLiteral("pg-ready-") + QUuid::createUuid().toString();
+    bool ok = false;
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), name);
+        db.setHostName(QStringLiteral("127.0.0.1"));
+        db.setPort(port());
+        db.setUserName(QStringLiteral("postgres"));
+        db.setDatabaseName(QStringLiteral("postgres"));
+        db.setConnectOptions(QStringLiteral("connect_timeout=2"));
+        ok = db.open() && QSqlQuery(db).exec(QStringLiteral("select 1"));
+        db.close();
+    }
+    QSqlDatabase::removeDatabase(name);
+    return ok;
 }

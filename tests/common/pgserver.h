@@ -20,6 +20,7 @@ protected:
     QString program() const override;
     QStringList arguments() const override;
     QString runAsUser() const override;
+    bool ready() override;
 };
 
 #endif // PGSERVER_H

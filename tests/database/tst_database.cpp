@@ -276,8 +276,6 @@ void tst_Database::the_8193rd_waiting_request_of_a_kind_is_refused_at_once()
 {
     QFETCH(unsigned, db);
     REQUIRE_SERVER(db);
-    sync(db, "drop table if exists t_full");
-    QVERIFY(sync(db, "create table t_full (v int)").errorType == 0);
     // No event loop runs in between: the first request of each kind is taken at once and
     // 8192 wait, so the next one is the 8193rd waiting.
     const unsigned n = 1 + 8192 + 1;
@@ -288,8 +286,10 @@ void tst_Database::the_8193rd_waiting_request_of_a_kind_is_refused_at_once()
     QCOMPARE(g_results.list.first().errorText, std::string("too many sqls"));
     QVERIFY(g_results.list.first().errorType != 0);
 
-    for (unsigned i = 0; i < n; ++i) // writes are counted apart from reads
-        xDatabase::db_query(db, 100000 + i, "insert into t_full values (1)", false);
+    // Writes are counted apart from reads. (A read-only statement keeps 8192 commits cheap
+    // on SQLite, which syncs the disk at every commit that wrote something.)
+    for (unsigned i = 0; i < n; ++i)
+        xDatabase::db_query(db, 100000 + i, "select 1", false);
     QCOMPARE(g_results.list.size(), 2);
     QCOMPARE(g_results.list.last().queryId, 100000 + n - 1);
     QCOMPARE(g_results.list.last().errorText, std::string("too many sqls"));
@@ -298,7 +298,6 @@ void tst_Database::the_8193rd_waiting_request_of_a_kind_is_refused_at_once()
     QCOMPARE(g_results.list.size(), 2 * int(n));
     for (const DbQueryResult& r : qAsConst(g_results.list))
         QCOMPARE(g_results.count(r.queryId), 1);
-    QCOMPARE(sync(db, "select count(*) from t_full", true).rows.at(0).at(0), std::to_string(n - 1));
 }
 
 void tst_Database::synchronous_calls_overtake_queued_requests()
@@ -401,6 +400,7 @@ void tst_Database::large_and_invalid_utf8_statements()
     QVERIFY(sync(kSqlite, "create table t_big (v text)").errorType == 0);
     const QByteArray big(1 << 20, 'b');
     xDatabase::db_query(kSqlite, 1, ("insert into t_big values ('" + big + "')").constData(), false);
+    QVERIFY(waitForResults(1)); // reads and writes run side by side: read after the write
     xDatabase::db_query(kSqlite, 2, "select length(v) from t_big", true);
     xDatabase::db_query(kSqlite, 3, "select 'a\xff\xfez'", true); // replaced, not rejected
     xDatabase::db_query(kSqlite, 4, "this is not sql", true);

@@ -1,0 +1,310 @@
+// The widget registry: caches through create, switch, close popup, re-parent
+// and delete, and the generic operations with their fixed results, on a real
+// panel.
+#include "common/eventrecorder.h"
+#include "common/guiapptestmain.h"
+#include "common/panelfixture.h"
+
+#include "platform/gid.h"
+#include "platform/logiclayercaller.h"
+#include "utils/utils.h"
+#include "views/lifecyclemanager.h"
+#include "views/qmlwindowmanage.h"
+#include "views/viewmanage.h"
+#include "xcomponents/qquick/xbasecontrol.h"
+
+#include <QPointer>
+#include <QQuickItem>
+
+class tst_Registry : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void caches_follow_create_close_reparent_and_delete();
+    void creation_needs_a_window_and_a_record();
+    void an_id_created_again_replaces_its_widget();
+    void show_from_cache_reports_an_unknown_id();
+    void unknown_ids_give_their_fixed_results_data();
+    void unknown_ids_give_their_fixed_results();
+    void disable_flags_data();
+    void disable_flags();
+    void opacity_rectangle_and_move();
+    void deleting_a_widget_inside_its_own_press_handler();
+
+private:
+    unsigned placeholder(unsigned id, unsigned windowId, Rect r = Rect{10, 20, 30, 40});
+    XBaseControl* control(unsigned id, unsigned windowId);
+
+    PanelFixture m_panel;
+    EventRecorder m_rec;
+    const unsigned A = PanelFixture::wid(1, 1);
+    const unsigned P = PanelFixture::wid(1, 2);
+};
+
+void tst_Registry::init()
+{
+    QVERIFY(m_panel.start());
+    m_rec.install();
+    m_rec.clear();
+    Utils::resetAssertCount();
+    QCOMPARE(m_panel.switchWindow(A, Rect{0, 0, 800, 480}), 0);
+}
+
+void tst_Registry::cleanup()
+{
+    m_panel.stop();
+}
+
+unsigned tst_Registry::placeholder(unsigned id, unsigned windowId, Rect r)
+{
+    View_CameraIP rec{};
+    rec.rect = r;
+    rec.id = id;
+    return unsigned(View_CreateCameraIP(&rec, windowId));
+}
+
+XBaseControl* tst_Registry::control(unsigned id, unsigned windowId)
+{
+    QQuickItem* content = ViewManage::getInstance()->windowManage()->getWindow(windowId);
+    auto* c = new XBaseControl(content);
+    c->setSize({100, 60});
+    c->setPosition({50, 50});
+    c->setId(id);
+    c->setWindowId(windowId);
+    ViewManage::getInstance()->appendItem(id, c);
+    return c;
+}
+
+void tst_Registry::caches_follow_create_close_reparent_and_delete()
+{
+    auto* vm = ViewManage::getInstance();
+    LifeCycleManager* lc = vm->lifeCycle();
+    QCOMPARE(placeholder(101, A), 0u);
+    QCOMPARE(placeholder(102, A), 0u);
+    QVERIFY(lc->isVisibleEntry(101));
+    QVERIFY(!vm->getItemById(101)->parent()); // owned by the registry, not by its window
+    QCOMPARE(vm->getItemById(101)->parentItem(), vm->windowManage()->getWindow(A));
+
+    QCOMPARE(m_panel.popup(P, Rect{100, 100, 300, 200}), 0);
+    QCOMPARE(placeholder(201, P), 0u);
+    QPointer<QQuickItem> inPopup = vm->getItemById(201);
+    QVERIFY(vm->idHash().contains(201));
+
+    // closing the popup keeps its widgets, unparented, in the invisible cache
+    QCOMPARE(View_CloseWindow(P), 0);
+    PanelFixture::settle();
+    QVERIFY(inPopup);
+    QVERIFY(!inPopup->parentItem());
+    QVERIFY(lc->isInvisibleEntry(201));
+    QVERIFY(!vm->idHash().contains(201));
+    QCOMPARE(vm->getItemById(201), inPopup.data());
+
+    // re-parented into the window it is visible again
+    QCOMPARE(View_SetWidgetParent(201, A), 0);
+    QCOMPARE(inPopup->parentItem(), vm->windowManage()->getWindow(A));
+    QVERIFY(lc->isVisibleEntry(201));
+    QCOMPARE(GId::wid(inPopup), A);
+
+    // switching windows re-sorts the caches by parent
+    const unsigned B = PanelFixture::wid(1, 3);
+    LifeCycleManager::removeItemParentItem(vm->getItemById(102));
+    QCOMPARE(m_panel.switchWindow(B, Rect{0, 0, 800, 480}), 0);
+    QVERIFY(lc->isInvisibleEntry(102));
+    QVERIFY(lc->isVisibleEntry(101));
+
+    // delete twice: the second time nothing is found and nothing happens
+    QPointer<QQuickItem> doomed = vm->getItemById(101);
+    QCOMPARE(View_DeleteWidgets({101}), 0);
+    QCOMPARE(View_DeleteWidgets({101, 4242}), 0);
+    QVERIFY(!vm->getItemById(101));
+    QVERIFY(doomed); // deletion is deferred
+    PanelFixture::settle();
+    QVERIFY(!doomed);
+    QCOMPARE(Utils::assertCount(), 0);
+}
+
+void tst_Registry::creation_needs_a_window_and_a_record()
+{
+    QCOMPARE(int(placeholder(301, 0)), -1);
+    QCOMPARE(int(placeholder(302, PanelFixture::wid(1, 77))), -1);
+    QCOMPARE(int(placeholder(303, PanelFixture::wid(9, 1))), -1);
+    QCOMPARE(View_CreateCameraIP(nullptr, A), -1);
+    QVERIFY(!ViewManage::getInstance()->getItemById(301));
+    QVERIFY(!ViewManage::getInstance()->getItemById(302));
+    Rect negative{5, 5, -10, -20};
+    QCOMPARE(placeholder(304, A, negative), 0u);
+    QCOMPARE(ViewManage::getInstance()->getItemById(304)->size(), QSizeF(0, 0));
+}
+
+void tst_Registry::an_id_created_again_replaces_its_widget()
+{
+    QCOMPARE(placeholder(401, A), 0u);
+    QPointer<QQuickItem> first = ViewManage::getInstance()->getItemById(401);
+    QCOMPARE(placeholder(401, A, Rect{200, 200, 10, 10}), 0u);
+    QQuickItem* second = ViewManage::getInstance()->getItemById(401);
+    QVERIFY(second != first.data());
+    PanelFixture::settle();
+    QVERIFY(!first); // the replaced widget is deleted, not leaked
+    QCOMPARE(second->position(), QPointF(200, 200));
+}
+
+void tst_Registry::show_from_cache_reports_an_unknown_id()
+{
+    QCOMPARE(View_ShowWidget(999, 1, ITEM_SLASH_WHOLE), -1);
+    QVERIFY2(Utils::lastAssertLocation().startsWith("\"nullptr != pItem\" in file qgui/views/ViewManage, line "),
+             qPrintable(Utils::lastAssertLocation()));
+    Utils::resetAssertCount();
+    QCOMPARE(View_ShowWidget(999, 0, ITEM_SLASH_WHOLE), 0);
+    QCOMPARE(Utils::assertCount(), 0);
+
+    QCOMPARE(placeholder(501, A), 0u);
+    View_HideWidget(501, ITEM_SLASH_WHOLE);
+    QVERIFY(!ViewManage::getInstance()->getItemById(501)->isVisible());
+    QCOMPARE(View_ShowWidget(501, 1, ITEM_SLASH_WHOLE), 0);
+    QVERIFY(ViewManage::getInstance()->getItemById(501)->isVisible());
+}
+
+void tst_Registry::unknown_ids_give_their_fixed_results_data()
+{
+    QTest::addColumn<int>("call");
+    QTest::addColumn<int>("expected");
+    QTest::addColumn<bool>("asserts");
+    QTest::newRow("DeleteWidgets") << 0 << 0 << false;
+    QTest::newRow("HideWidget") << 1 << 0 << false;
+    QTest::newRow("MoveWidget") << 2 << -1 << false;
+    QTest::newRow("ChangeOpacity") << 3 << 0 << false;
+    QTest::newRow("SetDisableFlag") << 4 << -1 << true;
+    QTest::newRow("ClrDisableFlag") << 5 << -1 << true;
+    QTest::newRow("SetBusy") << 6 << 0 << false;
+    QTest::newRow("ClrBusy") << 7 << 0 << false;
+    QTest::newRow("SetInputMode") << 8 << 0 << false;
+    QTest::newRow("ClrInputFlag") << 9 << 0 << false;
+    QTest::newRow("GetWgtRect") << 10 << 0 << false;
+    QTest::newRow("SetWidgetParent to no parent") << 11 << -1 << true;
+    QTest::newRow("SetWidgetParent unknown widget") << 12 << 0 << false;
+    QTest::newRow("ShowWidget not from cache") << 13 << 0 << false;
+}
+
+void tst_Registry::unknown_ids_give_their_fixed_results()
+{
+    QFETCH(int, call);
+    QFETCH(int, expected);
+    QFETCH(bool, asserts);
+    const unsigned id = 0xFFFFFFFFu;
+    Rect r{1, 2, 3, 4};
+    int result = 12345;
+    switch (call) {
+    case 0: result = View_DeleteWidgets({id, 0}); break;
+    case 1: result = View_HideWidget(id, ITEM_SLASH_SLASH); break;
+    case 2: result = View_MoveWidget(id, 1, 1); break;
+    case 3: result = View_ChangeOpacity(id, 50); break;
+    case 4: result = View_SetDisableFlag(id, 6); break;
+    case 5: result = View_ClrDisableFlag(id, 6); break;
+    case 6: result = View_SetBusy(id); break;
+    case 7: result = View_ClrBusy(id); break;
+    case 8: result = View_SetInputMode(id, true); break;
+    case 9: result = View_ClrInputFlag(id); break;
+    case 10:
+        result = View_GetWgtRect(id, r);
+        QCOMPARE(r.width, 3); // untouched
+        break;
+    case 11: result = View_SetWidgetParent(id, PanelFixture::wid(1, 99)); break;
+    case 12: result = View_SetWidgetParent(id, A); break;
+    case 13: result = View_ShowWidget(id, 0, ItemSlashType(77)); break;
+    }
+    QCOMPARE(result, expected);
+    QCOMPARE(Utils::assertCount() > 0, asserts);
+    if (asserts)
+        QVERIFY(Utils::lastAssertLocation().contains(" in file qgui/views/ViewManage, line "));
+}
+
+void tst_Registry::disable_flags_data()
+{
+    QTest::addColumn<uint>("flags");
+    QTest::addColumn<bool>("icon");
+    QTest::addColumn<bool>("gray");
+    QTest::newRow("6: icon and grey") << 6u << true << true;
+    QTest::newRow("1: neither") << 1u << false << false;
+    QTest::newRow("2: icon") << 2u << true << false;
+    QTest::newRow("4: grey") << 4u << false << true;
+    QTest::newRow("unknown bits ignored") << 0xFFFFFFF9u << false << false;
+}
+
+void tst_Registry::disable_flags()
+{
+    QFETCH(uint, flags);
+    QFETCH(bool, icon);
+    QFETCH(bool, gray);
+    XBaseControl* c = control(601, A);
+    QCOMPARE(View_SetDisableFlag(601, flags), 0);
+    QCOMPARE(c->disEnableIcon() && c->disEnableIcon()->isVisible(), icon);
+    QCOMPARE(c->grayFlag(), gray);
+    QCOMPARE(View_ClrDisableFlag(601, flags), 0);
+    QVERIFY(!(c->disEnableIcon() && c->disEnableIcon()->isVisible()));
+    QVERIFY(!c->grayFlag());
+    QCOMPARE(View_SetBusy(601), 0);
+    QVERIFY(c->busyIcon() && c->busyIcon()->isVisible());
+    QCOMPARE(View_ClrBusy(601), 0);
+    QVERIFY(!c->busyIcon()->isVisible());
+}
+
+void tst_Registry::opacity_rectangle_and_move()
+{
+    QCOMPARE(placeholder(701, A, Rect{10, 20, 30, 40}), 0u);
+    QQuickItem* item = ViewManage::getInstance()->getItemById(701);
+    QCOMPARE(View_ChangeOpacity(701, 50), 0);
+    QCOMPARE(item->opacity(), 0.5);
+    QCOMPARE(View_ChangeOpacity(701, 255), 0);
+    QCOMPARE(item->opacity(), 1.0);
+    Rect r{};
+    QCOMPARE(View_GetWgtRect(701, r), 0);
+    QCOMPARE(r.x, 10);
+    QCOMPARE(r.y, 20);
+    QCOMPARE(r.width, 30);
+    QCOMPARE(r.height, 40);
+    QCOMPARE(View_MoveWidget(701, 5, 6), 0); // a painted item moves
+    QCOMPARE(item->position(), QPointF(5, 6));
+    control(702, A);
+    QCOMPARE(View_MoveWidget(702, 5, 6), -1); // a plain control does not
+    QCOMPARE(View_HideWidget(702, ITEM_SLASH_SLASH), -1);
+    QVERIFY(Utils::lastAssertLocation().startsWith("\"0\" in file qgui/views/ViewManage"));
+}
+
+namespace {
+QPointer<XBaseControl> g_pressed;
+bool g_validAfterDelete = false;
+
+ErrRet deleteOnPress(unsigned id, int code, void* data)
+{
+    EventRecorder::callBack(id, code, data);
+    if (code == EVT_WIDGET_PRESS && id != 0) {
+        View_DeleteWidgets({id}); // the logic layer deletes the widget from inside its own event
+        g_validAfterDelete = !g_pressed.isNull() && g_pressed->getId() == id;
+    }
+    return 0;
+}
+} // namespace
+
+void tst_Registry::deleting_a_widget_inside_its_own_press_handler()
+{
+    XBaseControl* c = control(801, A);
+    QPointer<XBaseControl> guard(c);
+    g_pressed = c;
+    g_validAfterDelete = false;
+    LogicLayerCaller::setCallBack(&deleteOnPress);
+    const QPoint p = m_panel.sceneCenter(c);
+    m_panel.press(p);
+    QVERIFY(g_validAfterDelete); // still valid while its own handler runs
+    m_panel.release(p);
+    PanelFixture::settle();
+    QVERIFY(!guard);
+    QCOMPARE(m_rec.eventsWithCode(EVT_WIDGET_PRESS).size(), 1);
+    QCOMPARE(m_rec.eventsWithCode(EVT_WIDGET_PRESS).first().id, 801u);
+    m_rec.install();
+}
+
+QGUI_GUIAPP_TEST_MAIN(tst_Registry)
+#include "tst_registry.moc"

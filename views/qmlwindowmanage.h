@@ -1,0 +1,108 @@
+#ifndef QMLWINDOWMANAGE_H
+#define QMLWINDOWMANAGE_H
+
+#include <QColor>
+#include <QHash>
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+#include "platform/xpopup.h"
+
+#include <qgui/records_window.h>
+
+class QQmlEngine;
+class QQuickItem;
+class XLumoDialog;
+class XOverlay;
+class XPopup;
+class XWindow;
+class PressWatcher;
+class LifeCycleManager;
+
+/**
+ * The panel's screens: desktops (one overlay per desktop number on the shell's
+ * panel control), the windows shown on a desktop, the popup windows above them,
+ * and the panel-wide layers: the message box, the busy bar and the dimming
+ * layer. Stacking, bottom to top: desktop and its windows; popup windows at
+ * their own z; the message box at 2147483645; the dimming layer at 2147483647.
+ */
+class QmlWindowManage : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr double kLighterZ = 2147483647.0;
+    static constexpr double kMessageZ = 2147483645.0;
+    static constexpr double kBusyZ = 2147483646.0;
+
+    explicit QmlWindowManage(LifeCycleManager* lifeCycle, QObject* parent = nullptr);
+    ~QmlWindowManage() override;
+
+    // desktops
+    /** Sizes the view, makes the desktop's overlay, dimming layer and item; false when there is
+     *  no shell to place it in. */
+    bool addDeskTop(const Size& size, unsigned n);
+    QQuickItem* getDeskTop() const;
+    QQuickItem* getDeskTop(unsigned n) const;
+    XOverlay* getOverlay(unsigned n) const;
+    bool showDesktop(unsigned n, bool show);
+    bool closeDesktop(unsigned n);
+    unsigned currentDesktop() const { return m_currentDesk; }
+
+    // windows and popup windows
+    /** Creates and shows a window from \a rec; null when its desktop does not exist. */
+    XWindow* addWindow(const View_Window* rec);
+    XLumoDialog* popupWindow(const View_Window* rec, unsigned windowId, const View_Popup* popup, int flags);
+    /** The content item of the window or popup window \a windowId (windows first); null if none. */
+    QQuickItem* getWindow(unsigned windowId) const;
+    /** The window or popup window object itself. */
+    QQuickItem* getWindowObj(unsigned windowId) const;
+    XWindow* findWindow(unsigned windowId) const;
+    XLumoDialog* findDialog(unsigned windowId) const;
+    /** Detaches a window (deleted later) or closes a popup window (deleted later). */
+    bool removeWindow(unsigned windowId);
+    /** Closes a popup window (its widgets go to the caches and leave \a idHash) or removes a
+     *  window. */
+    bool closeWindow(unsigned windowId, QHash<unsigned, QQuickItem*>& idHash);
+    QQuickItem* currentWindow() const;
+    QList<XWindow*> windows() const;
+    QList<XLumoDialog*> dialogs() const;
+
+    // panel-wide layers
+    void popMsg(const QString& text, unsigned life);
+    QQuickItem* messageBox() const { return m_msgBox.data(); }
+    void setLight(int percent);
+    XPopup* lighter(unsigned desk) const;
+    PressWatcher* pressWatcher() const { return m_pressWatcher; }
+    void startBarAnimation(unsigned id, bool modal);
+    void stopBarAnimation();
+    QQuickItem* busyBar() const { return m_busyBar.data(); }
+
+    QQmlEngine* getEngine() const;
+    /** The item desktops are placed in (the shell's panel content), or null without a shell. */
+    QQuickItem* panel() const;
+
+Q_SIGNALS:
+    /** The dimming colour changed (transparent at full brightness); the keyboard's layer follows it. */
+    void lightChanged(const QColor& color);
+
+private:
+    QQuickItem* createBackground(QQuickItem* parent, const View_Window* rec);
+    QQuickItem* createTitleBar(XLumoDialog* dlg, const View_Window* rec, const View_Popup* popup, int flags);
+
+    LifeCycleManager* m_lifeCycle; // not owned
+    QHash<unsigned, QPointer<XOverlay>> m_overlays;
+    QHash<unsigned, QPointer<QQuickItem>> m_desktops;
+    QHash<unsigned, QPointer<XPopup>> m_lighters;
+    QList<QPointer<XWindow>> m_windows;
+    QList<QPointer<XLumoDialog>> m_dialogs;
+    QPointer<XPopup> m_msgBox;
+    QPointer<QQuickItem> m_busyBar;
+    PressWatcher* m_pressWatcher = nullptr; // owned (child)
+    unsigned m_currentDesk = 0;
+    bool m_hasDesk = false;
+};
+
+#endif // QMLWINDOWMANAGE_H

@@ -1,0 +1,82 @@
+#include "views/xqmlcomponentmanage.h"
+
+#include "platform/nlogger.h"
+
+#include <QQmlComponent>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQuickItem>
+
+XQmlComponentManage* XQmlComponentManage::getInstance()
+{
+    static XQmlComponentManage* instance = new XQmlComponentManage; // lives as long as the process
+    return instance;
+}
+
+XQmlComponentManage::XQmlComponentManage(QObject* parent)
+    : QObject(parent)
+{
+}
+
+void XQmlComponentManage::setEngine(QQmlEngine* engine)
+{
+    if (m_engine == engine)
+        return;
+    clear(); // components belong to the engine that compiled them
+    m_engine = engine;
+}
+
+void XQmlComponentManage::clear()
+{
+    qDeleteAll(m_cache);
+    m_cache.clear();
+}
+
+QQmlComponent* XQmlComponentManage::component(const QUrl& url)
+{
+    if (!m_engine)
+        return nullptr;
+    auto it = m_cache.constFind(url);
+    if (it != m_cache.constEnd())
+        return it.value();
+    auto* c = new QQmlComponent(m_engine, url, QQmlComponent::PreferSynchronous, this);
+    if (c->isError()) {
+        NLog::NLogger::instance()->logger()->error("QML component {}: {}", url.toString().toStdString(),
+                                                   c->errorString().toStdString());
+        delete c;
+        return nullptr;
+    }
+    m_cache.insert(url, c);
+    return c;
+}
+
+QQuickItem* XQmlComponentManage::createItem(const QUrl& url, QQuickItem* parent, const QVariantMap& properties)
+{
+    QQmlComponent* c = component(url);
+    if (!c)
+        return nullptr;
+    QQmlContext* ctx = parent ? QQmlEngine::contextForObject(parent) : nullptr;
+    QObject* obj = c->beginCreate(ctx ? ctx : m_engine->rootContext());
+    auto* item = qobject_cast<QQuickItem*>(obj);
+    if (!item) {
+        delete obj;
+        return nullptr;
+    }
+    for (auto it = properties.constBegin(); it != properties.constEnd(); ++it)
+        item->setProperty(it.key().toUtf8().constData(), it.value());
+    if (parent)
+        item->setParentItem(parent);
+    c->completeCreate();
+    QQmlEngine::setObjectOwnership(item, QQmlEngine::CppOwnership);
+    return item;
+}
+
+QQuickItem* XQmlComponentManage::createDisEnableIcon(QQuickItem* parent)
+{
+    return createItem(QUrl(QStringLiteral("qrc:/QmlDisEnableIcon.qml")), parent);
+}
+
+QQuickItem* XQmlComponentManage::createBusyIcon(QQuickItem* parent)
+{
+    return createItem(QUrl(QStringLiteral("qrc:/QmlBusyIcon.qml")), parent);
+}
