@@ -6,29 +6,62 @@
 #include <QVariant>
 
 namespace {
-const char* const kIdProp = "_qgui_id";
-const char* const kWIdProp = "_qgui_wid";
+
+/** The tags live in the object's user data: set in O(1), freed with the object. */
+struct GIdData : QObjectUserData {
+    unsigned id = 0;
+    unsigned wid = 0;
+    bool hasId = false;
+    bool hasWid = false;
+};
+
+uint userDataSlot()
+{
+    static const uint slot = QObject::registerUserData();
+    return slot;
+}
+
+GIdData* data(const QObject* obj)
+{
+    return static_cast<GIdData*>(obj->userData(userDataSlot()));
+}
+
+GIdData* ensure(QObject* obj)
+{
+    GIdData* d = data(obj);
+    if (!d) {
+        d = new GIdData;
+        obj->setUserData(userDataSlot(), d);
+    }
+    return d;
+}
+
 } // namespace
 
 void GId::setId(QObject* obj, unsigned id)
 {
-    if (obj)
-        obj->setProperty(kIdProp, QVariant::fromValue<uint>(id));
+    if (!obj)
+        return;
+    GIdData* d = ensure(obj);
+    d->id = id;
+    d->hasId = true;
 }
 
 void GId::setWId(QObject* obj, unsigned windowId)
 {
-    if (obj)
-        obj->setProperty(kWIdProp, QVariant::fromValue<uint>(windowId));
+    if (!obj)
+        return;
+    GIdData* d = ensure(obj);
+    d->wid = windowId;
+    d->hasWid = true;
 }
 
 unsigned GId::id(const QObject* obj)
 {
     if (!obj)
         return 0;
-    QVariant v = obj->property(kIdProp);
-    if (v.isValid())
-        return v.toUInt();
+    if (const GIdData* d = data(obj); d && d->hasId)
+        return d->id;
     // items of the library and QML components answer getId()
     const QMetaObject* mo = obj->metaObject();
     int idx = mo->indexOfMethod("getId()");
@@ -55,6 +88,7 @@ unsigned GId::wid(const QObject* obj)
 {
     if (!obj)
         return 0;
-    QVariant v = obj->property(kWIdProp);
-    return v.isValid() ? v.toUInt() : 0;
+    if (const GIdData* d = data(obj); d && d->hasWid)
+        return d->wid;
+    return 0;
 }

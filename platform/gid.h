@@ -4,9 +4,10 @@
 class QObject;
 
 /**
- * Id tags on any QObject: the widget id and the window id of an item, stored as
- * dynamic properties so that QML items and C++ items carry them alike. An object
- * without a tag answers 0 (the no-widget id).
+ * Id tags on any QObject: the widget id and the window id of an item, kept in
+ * the object's user data (set in constant time, freed with the object), so that
+ * QML items and C++ items carry them alike. An object without a tag answers its
+ * QML getId() method if it has one, else 0 (the no-widget id).
  */
 class GId
 {

@@ -1,5 +1,6 @@
 #include "platform/nlogger.h"
 
+#include <spdlog/async.h>
 #include <spdlog/sinks/rotating_file_sink.h>
 #include <spdlog/sinks/stdout_color_sinks.h>
 
@@ -51,7 +52,10 @@ void NLogger::build(const std::string& file)
     } catch (const spdlog::spdlog_ex&) {
         m_file.clear(); // no writable file: stderr only
     }
-    auto logger = std::make_shared<spdlog::logger>("qgui", sinks.begin(), sinks.end());
+    static std::shared_ptr<spdlog::details::thread_pool> pool
+        = std::make_shared<spdlog::details::thread_pool>(8192, 1);
+    std::shared_ptr<spdlog::logger> logger = std::make_shared<spdlog::async_logger>("qgui", sinks.begin(), sinks.end(), pool,
+                                                         spdlog::async_overflow_policy::block);
     // QGUI_LOG_LEVEL: trace, debug, info (default), warn, err, critical, off
     const char* lvl = std::getenv("QGUI_LOG_LEVEL");
     logger->set_level(lvl && *lvl ? spdlog::level::from_str(lvl) : spdlog::level::info);

@@ -35,8 +35,10 @@ public:
     {
         if (!m_logger->should_log(lvl))
             return;
-        m_logger->log(lvl, "[{}:{}] {}", source, function,
-                      fmt::format(fmt, std::forward<Args>(args)...));
+        fmt::memory_buffer buf;
+        fmt::format_to(std::back_inserter(buf), "[{}:{}] ", source, function);
+        fmt::format_to(std::back_inserter(buf), fmt, std::forward<Args>(args)...);
+        m_logger->log(lvl, spdlog::string_view_t(buf.data(), buf.size()));
     }
 
 private:

@@ -2,6 +2,7 @@
 
 #include "platform/guiqtadaptcore.h"
 
+#include <QMetaMethod>
 #include <QMetaObject>
 #include <QQuickItem>
 
@@ -10,8 +11,14 @@ void WidgetPropertyManage::applyHeader(QQuickItem* item, unsigned header)
     if (!item)
         return;
     const qreal opacity = GuiQtAdapt::Core::toOpacity(header);
-    if (item->metaObject()->indexOfMethod("setItemOpacity(qreal)") >= 0)
-        QMetaObject::invokeMethod(item, "setItemOpacity", Q_ARG(qreal, opacity));
+    // the method index is looked up once per item class, not per widget
+    static QHash<const QMetaObject*, int> s_index;
+    const QMetaObject* mo = item->metaObject();
+    auto it = s_index.constFind(mo);
+    if (it == s_index.constEnd())
+        it = s_index.insert(mo, mo->indexOfMethod("setItemOpacity(qreal)"));
+    if (it.value() >= 0)
+        mo->method(it.value()).invoke(item, Qt::DirectConnection, Q_ARG(qreal, opacity));
     else
         item->setOpacity(opacity);
 }

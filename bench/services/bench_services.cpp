@@ -23,6 +23,7 @@
 #include <QTemporaryDir>
 #include <QVariant>
 #include <QThread>
+#include <QTimer>
 
 #include <MQTTAsync.h>
 
@@ -37,10 +38,12 @@ bool spinUntil(const std::function<bool()>& done, int timeoutMs)
 {
     QElapsedTimer t;
     t.start();
+    QTimer tick; // wakes the loop for conditions that no event announces
+    tick.start(1);
     while (!done()) {
         if (t.elapsed() > timeoutMs)
             return false;
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
     return true;
 }
