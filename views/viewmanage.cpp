@@ -99,13 +99,16 @@ QQuickItem* ViewManage::newUnsupportFeatureImage(QQuickItem* parent, QPoint pos,
     return item;
 }
 
-int ViewManage::createPlaceholder(unsigned header, const Rect& rect, unsigned id, unsigned windowId)
+int ViewManage::createPlaceholder(unsigned header, const Rect& rect, unsigned id, unsigned windowId,
+                                  const QString& name)
 {
     QQuickItem* parent = m_windowManage->getWindow(windowId);
     if (!parent)
         return -1;
     const QRect r = GuiQtAdapt::Core::toQRect(rect);
     QQuickItem* item = newUnsupportFeatureImage(parent, r.topLeft(), r.size(), id, windowId);
+    if (auto* placeholder = qobject_cast<XInvalidFeature*>(item))
+        placeholder->setFeatureName(name + QStringLiteral(" (not available)"));
     WidgetPropertyManage::applyHeader(item, header);
     return 0;
 }

@@ -300,7 +300,7 @@ public:
 private:
     ViewManage();
     /** Shared part of the placeholder creators: the record's header, rect and id. */
-    int createPlaceholder(unsigned header, const Rect& rect, unsigned id, unsigned windowId);
+    int createPlaceholder(unsigned header, const Rect& rect, unsigned id, unsigned windowId, const QString& name);
 
     // members in order of construction
     std::unique_ptr<LifeCycleManager> m_lifeCycle;

@@ -14,6 +14,58 @@ Settings g_settings;
 int g_ticks100 = 0; // 100 ms ticks since the event loop started
 int g_shots = 0;
 
+bool g_popupOpen = false;
+const unsigned kDesk = 1;
+const unsigned kWindow1 = (kDesk << 16) | 1; // window ids: desktop number in the high 16 bits
+const unsigned kWindow2 = (kDesk << 16) | 2;
+const unsigned kPopup = (kDesk << 16) | 3;
+unsigned g_current = 0;
+
+void showWindow(unsigned windowId)
+{
+    if (g_current && g_current != windowId)
+        View_CloseWindow(g_current); // its widgets stay cached for the next visit
+    View_Window w{};
+    w.id = windowId;
+    w.rect = Rect{0, 0, 1024, 600};
+    w.background = windowId == kWindow1 ? Brush{BRUSH_LINEAR, 0xFF2B3A4Au, 0xFF4F6D8Au, 90}
+                                        : Brush{BRUSH_SOLID, 0xFFECEFF3u, 0, 0};
+    View_SwitchWindow(&w);
+    g_current = windowId;
+    if (windowId == kWindow2) {
+        // a camera view is not available on this panel: its placeholder shows where it belongs
+        View_CameraIP cam{};
+        cam.rect = Rect{620, 60, 360, 240};
+        cam.id = 900;
+        View_CreateCameraIP(&cam, kWindow2);
+    }
+}
+
+void openPopup()
+{
+    View_Window w{};
+    w.id = kPopup;
+    w.rect = Rect{262, 150, 500, 300};
+    w.background = Brush{BRUSH_SOLID, 0xFFFFFFFFu, 0, 0};
+    w.border = Pen{0xFF2B3A4Au, 2, PEN_SOLID};
+    w.title = "Settings";
+    View_Popup p{};
+    p.z = 10;
+    p.modal = 1;
+    p.movable = 1;
+    p.buttons = POPUP_BUTTON_CLOSE;
+    p.titleHeight = 44;
+    View_PopupWindow(&w, kPopup, &p, 0);
+    g_popupOpen = true;
+}
+
+void closePopup()
+{
+    if (g_popupOpen)
+        View_CloseWindow(kPopup);
+    g_popupOpen = false;
+}
+
 const char* eventName(int code)
 {
     switch (code) {
@@ -49,6 +101,8 @@ ErrRet onEvent(unsigned id, int code, void* data)
     }
     std::printf("\n");
     std::fflush(stdout);
+    if (code == EVT_POPUP_CLOSE && id == kPopup)
+        closePopup(); // the close button only reports: closing is the logic layer's decision
     return 0;
 }
 
@@ -67,6 +121,8 @@ void screenshot(const char* step)
 int onDeviceInit(unsigned deviceNo, const char*, const char*, const unsigned* words)
 {
     std::printf("demo: device %u initialising, option words %u,%u,%u\n", deviceNo, words[0], words[1], words[2]);
+    View_CreateDesktop(Size{1024, 600}, kDesk);
+    showWindow(kWindow1);
     return 0;
 }
 
@@ -81,8 +137,24 @@ void every10ms() {}
 void every100ms(int)
 {
     ++g_ticks100;
-    if (g_ticks100 == 10)
-        screenshot("start");
+    // the demo's script, one step every half second or so
+    switch (g_ticks100) {
+    case 10: screenshot("1-window1"); break;
+    case 15: showWindow(kWindow2); break;
+    case 20: screenshot("2-window2"); break;
+    case 25: openPopup(); break;
+    case 30: screenshot("3-popup"); break;
+    case 40: closePopup(); break; // nobody pressed its close button: close it anyway
+    case 42: View_PopupMsg("Batch 42 finished: 1,250 parts", 4); break;
+    case 45: screenshot("4-message"); break;
+    case 48: View_SetLight(40); break; // dimmed: the next touch only wakes the panel
+    case 50: screenshot("5-dimmed"); break;
+    case 55: View_SetLight(100); break;
+    default:
+        if (g_ticks100 > 55 && g_ticks100 % 30 == 0)
+            showWindow(g_current == kWindow1 ? kWindow2 : kWindow1);
+        break;
+    }
     if (g_settings.quitAfterMs > 0 && g_ticks100 * 100 >= g_settings.quitAfterMs)
         ::kill(::getpid(), SIGTERM); // the library quits cleanly on SIGTERM
 }
