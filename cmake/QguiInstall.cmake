@@ -22,8 +22,10 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/qguiConfigVersion.cmake
 install(FILES ${PROJECT_BINARY_DIR}/qguiConfig.cmake ${PROJECT_BINARY_DIR}/qguiConfigVersion.cmake
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/qgui)
 
+# relocatable: the prefix is found from where the .pc file is installed
+file(RELATIVE_PATH QGUI_PC_TO_PREFIX "/p/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/p")
 file(WRITE ${PROJECT_BINARY_DIR}/qgui.pc.in
-"prefix=@CMAKE_INSTALL_PREFIX@
+"prefix=\${pcfiledir}/@QGUI_PC_TO_PREFIX@
 libdir=\${prefix}/@CMAKE_INSTALL_LIBDIR@
 includedir=\${prefix}/@CMAKE_INSTALL_INCLUDEDIR@
 
