@@ -205,7 +205,9 @@ QList<QPair<QString, qint64>> GuiApplication::preparedFiles()
 void GuiApplication::checkPath(const QString& projectPath, const unsigned* words)
 {
     Q_UNUSED(words)
-    QDir root(projectPath.isEmpty() ? QDir::currentPath() : projectPath);
+    if (projectPath.isEmpty())
+        return; // no project: nothing of the working folder is touched
+    QDir root(projectPath);
     for (unsigned n = 0; n <= 4; ++n) {
         const QString sub = QString::fromLatin1(getStorePath(n));
         if (n == 0 && root.exists(sub))

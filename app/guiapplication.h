@@ -56,7 +56,7 @@ public:
      *  of the same kind wins; kind 3 is ignored; unparsable parts read as 0). */
     static void parseInitOpts(const QString& options, unsigned* words);
     /** Creates the storage folders under the project, empties "disk/tmp/", prepares the fixed
-     *  files under "disk/". */
+     *  files under "disk/". Without a project path nothing is done. */
     static void checkPath(const QString& projectPath, const unsigned* words);
     /** Files prepared by checkPath: path under the project, size in bytes. */
     static QList<QPair<QString, qint64>> preparedFiles();

@@ -159,6 +159,14 @@ void tst_Startup::start_empties_the_temporary_folder_and_keeps_the_others()
         QVERIFY(f.open(QIODevice::ReadOnly));
         QVERIFY(!f.readAll().contains('z')); // re-created, not kept
     }
+
+    // without a project nothing of the working folder is touched
+    QTemporaryDir cwd;
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(cwd.path());
+    GuiApplication::checkPath(QString(), words);
+    QDir::setCurrent(before);
+    QVERIFY(!QDir(cwd.path() + "/disk").exists());
 }
 
 void tst_Startup::antialiasing_follows_the_environment_data()
