@@ -17,30 +17,12 @@ XLumoDialog::~XLumoDialog() = default;
 
 void XLumoDialog::setBackgroundItem(QQuickItem* item)
 {
-    if (m_background == item)
-        return;
-    delete m_background.data();
-    m_background = item;
-    if (item) {
-        item->setParentItem(this);
-        item->setParent(this);
-        item->setZ(0);
-        item->setSize(size());
-    }
+    XWindow::adoptLayer(m_background, item, this, 0);
 }
 
 void XLumoDialog::setBorderItem(QQuickItem* item)
 {
-    if (m_border == item)
-        return;
-    delete m_border.data();
-    m_border = item;
-    if (item) {
-        item->setParentItem(this);
-        item->setParent(this);
-        item->setZ(3); // the frame is drawn over title and content
-        item->setSize(size());
-    }
+    XWindow::adoptLayer(m_border, item, this, 3); // the frame is drawn over title and content
 }
 
 void XLumoDialog::moveBy(const QPoint& offset)
@@ -61,16 +43,10 @@ void XLumoDialog::geometryChanged(const QRectF& newGeometry, const QRectF& oldGe
 
 unsigned XLumoDialog::pressHandler(const QPointF& windowPos, QQuickItem* source)
 {
-    QQuickItem* hit = XWindow::registeredItemAt(contentItem(), windowPos, this);
-    const unsigned id = GId::id(hit ? hit : source);
-    LogicLayerCaller::call(id, EVT_WIDGET_PRESS, nullptr);
-    return id;
+    return XWindow::reportAt(contentItem(), this, windowPos, source, EVT_WIDGET_PRESS);
 }
 
 unsigned XLumoDialog::releaseHandler(const QPointF& windowPos, QQuickItem* source)
 {
-    QQuickItem* hit = XWindow::registeredItemAt(contentItem(), windowPos, this);
-    const unsigned id = GId::id(hit ? hit : source);
-    LogicLayerCaller::call(id, EVT_WIDGET_RELEASE, nullptr);
-    return id;
+    return XWindow::reportAt(contentItem(), this, windowPos, source, EVT_WIDGET_RELEASE);
 }

@@ -20,18 +20,23 @@ XWindow::XWindow(QQuickItem* parent)
 
 XWindow::~XWindow() = default;
 
+void XWindow::adoptLayer(QPointer<QQuickItem>& slot, QQuickItem* item, QQuickItem* owner, qreal z)
+{
+    if (slot == item)
+        return;
+    delete slot.data();
+    slot = item;
+    if (item) {
+        item->setParentItem(owner);
+        item->setParent(owner);
+        item->setZ(z);
+        item->setSize(owner->size());
+    }
+}
+
 void XWindow::setBackgroundItem(QQuickItem* item)
 {
-    if (m_background == item)
-        return;
-    delete m_background.data();
-    m_background = item;
-    if (item) {
-        item->setParentItem(this);
-        item->setParent(this);
-        item->setZ(0);
-        item->setSize(size());
-    }
+    adoptLayer(m_background, item, this, 0);
 }
 
 void XWindow::geometryChanged(const QRectF& newGeometry, const QRectF& oldGeometry)
@@ -63,18 +68,21 @@ QQuickItem* XWindow::registeredItemAt(QQuickItem* content, const QPointF& window
     return nullptr;
 }
 
+unsigned XWindow::reportAt(QQuickItem* content, const QQuickItem* window, const QPointF& windowPos,
+                           QQuickItem* source, int code)
+{
+    QQuickItem* hit = registeredItemAt(content, windowPos, window);
+    const unsigned id = GId::id(hit ? hit : source);
+    LogicLayerCaller::call(id, code, nullptr);
+    return id;
+}
+
 unsigned XWindow::pressHandler(const QPointF& windowPos, QQuickItem* source)
 {
-    QQuickItem* hit = registeredItemAt(m_content, windowPos, this);
-    const unsigned id = GId::id(hit ? hit : source);
-    LogicLayerCaller::call(id, EVT_WIDGET_PRESS, nullptr);
-    return id;
+    return reportAt(m_content, this, windowPos, source, EVT_WIDGET_PRESS);
 }
 
 unsigned XWindow::releaseHandler(const QPointF& windowPos, QQuickItem* source)
 {
-    QQuickItem* hit = registeredItemAt(m_content, windowPos, this);
-    const unsigned id = GId::id(hit ? hit : source);
-    LogicLayerCaller::call(id, EVT_WIDGET_RELEASE, nullptr);
-    return id;
+    return reportAt(m_content, this, windowPos, source, EVT_WIDGET_RELEASE);
 }

@@ -39,6 +39,12 @@ public:
 
     /** The registered item under \a windowPos inside \a content (topmost first), or null. */
     static QQuickItem* registeredItemAt(QQuickItem* content, const QPointF& windowPos, const QQuickItem* window);
+    /** Reports \a code (press or release) for the registered item under \a windowPos, else for
+     *  \a source; returns the id reported. Shared by windows and popup windows. */
+    static unsigned reportAt(QQuickItem* content, const QQuickItem* window, const QPointF& windowPos,
+                             QQuickItem* source, int code);
+    /** Makes \a item the \a slot child of \a owner (deleting the previous one), at \a z and owner size. */
+    static void adoptLayer(QPointer<QQuickItem>& slot, QQuickItem* item, QQuickItem* owner, qreal z);
 
 protected:
     void geometryChanged(const QRectF& newGeometry, const QRectF& oldGeometry) override;
