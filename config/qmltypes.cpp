@@ -6,9 +6,16 @@
 #include "platform/xoverlay.h"
 #include "platform/xpopup.h"
 #include "xcomponents/qquick/lighterpopup.h"
+#include "xcomponents/qquick/monotext.h"
 #include "xcomponents/qquick/xbasecontrol.h"
+#include "xcomponents/qquick/xbasetext.h"
+#include "xcomponents/qquick/xbutton.h"
+#include "xcomponents/qquick/xcausetext.h"
+#include "xcomponents/qquick/xdisenableicon.h"
 #include "xcomponents/qquick/xinvalidfeature.h"
 #include "xcomponents/qquick/xlumodialog.h"
+#include "xcomponents/qquick/xqrcode.h"
+#include "xcomponents/qquick/xquickimage.h"
 #include "xcomponents/qquick/xwindow.h"
 
 #include <QtQml>
@@ -30,4 +37,17 @@ void registerQmlTypes()
     qmlRegisterType<XWindow>(uri, 1, 0, "XWindow");
     qmlRegisterType<XLumoDialog>(uri, 1, 0, "XLumoDialog");
     qmlRegisterType<XInvalidFeature>(uri, 1, 0, "XInvalidFeature");
+
+    // Texts and buttons
+    qmlRegisterType<XButton>(uri, 1, 0, "XButton");
+    qmlRegisterType<XBaseText>(uri, 1, 0, "XBaseText");
+    qmlRegisterType<XCauseText>(uri, 1, 0, "XCauseText");
+    // the carousel text's content class is not an item of its own: QML gets the text widget
+    qmlRegisterType<XCauseText>(uri, 1, 0, "XskCauseText");
+    qmlRegisterType<MonoText>(uri, 1, 0, "MonoText");
+    qmlRegisterType<XDisEnableIcon>(uri, 1, 0, "XDisEnableIcon");
+
+    // Shapes and images
+    qmlRegisterType<XQuickImage>(uri, 1, 0, "XImage");
+    qmlRegisterType<XQRCode>(uri, 1, 0, "XQRCode");
 }

@@ -180,8 +180,8 @@ void DDatabase::deliverFinished()
     if (m_readInFlight && m_selectWatcher.future().isFinished()) {
         m_readInFlight = false;
         m_readRunning = false;
-        DbQueryResult r = m_selectWatcher.result();
-        deliver(r);
+        std::shared_ptr<DbQueryResult> r = m_selectWatcher.result();
+        deliver(*r);
     }
     if (m_writeInFlight && m_queryWatcher.future().isFinished()) {
         m_writeInFlight = false;
@@ -225,8 +225,9 @@ void DDatabase::watchSelect()
     }
     const unsigned dbNo = m_dbNo;
     m_readInFlight = true;
-    m_selectWatcher.setFuture(
-        QtConcurrent::run(m_pool, [dbNo, q = std::move(q)] { return doSelect(dbNo, q); }));
+    m_selectWatcher.setFuture(QtConcurrent::run(m_pool, [dbNo, q = std::move(q)] {
+        return std::make_shared<DbQueryResult>(doSelect(dbNo, q));
+    }));
 }
 
 void DDatabase::watchQuery()
@@ -255,8 +256,8 @@ void DDatabase::onSelectFinished()
     if (!m_readInFlight)
         return; // already answered by deliverFinished()
     m_readInFlight = false;
-    DbQueryResult r = m_selectWatcher.result();
-    deliver(r);
+    std::shared_ptr<DbQueryResult> r = m_selectWatcher.result();
+    deliver(*r);
     watchSelect(); // the next reading request, if any
 }
 

@@ -9,6 +9,7 @@
 #include <QObject>
 
 #include <deque>
+#include <memory>
 
 class QThreadPool;
 
@@ -88,7 +89,7 @@ private:
     bool m_readInFlight = false;  ///< owner thread only: the select watcher holds an unanswered job
     bool m_writeInFlight = false; ///< owner thread only: the same for the write batch
 
-    QFutureWatcher<DbQueryResult> m_selectWatcher;
+    QFutureWatcher<std::shared_ptr<DbQueryResult>> m_selectWatcher; ///< by pointer: rows are not copied
     QFutureWatcher<QList<DbQueryResult>> m_queryWatcher;
 };
 

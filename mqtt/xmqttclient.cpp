@@ -131,6 +131,9 @@ void XMqttClient::connectToHost()
 
     MQTTAsync_createOptions create = MQTTAsync_createOptions_initializer;
     create.MQTTVersion = v5 ? MQTTVERSION_5 : MQTTVERSION_DEFAULT;
+    // Paho counts every queued command against this limit (100 by default), connected or
+    // not: a burst of publishes would be refused long before the socket is the limit.
+    create.maxBufferedMessages = kMaxQueuedMessages;
     MQTTAsync handle = nullptr;
     int rc = MQTTAsync_createWithOptions(&handle, uri.constData(), clientId.constData(),
                                          MQTTCLIENT_PERSISTENCE_NONE, nullptr, &create);
@@ -259,7 +262,10 @@ int XMqttClient::publish(const QByteArray& topic, const QByteArray& payload, int
     else
         ro.onFailure = &XMqttClient::onPublishFailureServer;
     ro.context = m_context;
-    return MQTTAsync_sendMessage(m_client, topic.constData(), &msg, &ro) == MQTTASYNC_SUCCESS ? 0 : -1;
+    const int rc = MQTTAsync_sendMessage(m_client, topic.constData(), &msg, &ro);
+    if (rc != MQTTASYNC_SUCCESS)
+        log()->debug("mqtt client {}: MQTTAsync_sendMessage {}", m_id, rc);
+    return rc == MQTTASYNC_SUCCESS ? 0 : -1;
 }
 
 void XMqttClient::onlineStateChanged(bool online)

@@ -51,6 +51,8 @@ public:
     /** Automatic reconnection of a long connection: first and longest wait, seconds. */
     static constexpr int kMinRetryInterval = 1;
     static constexpr int kMaxRetryInterval = 30;
+    /** Messages Paho may hold that are not yet written to the broker. */
+    static constexpr int kMaxQueuedMessages = 65535;
     /** Seconds Paho waits for the broker's answer to a connect. */
     static constexpr int kConnectTimeout = 10;
 

@@ -4,55 +4,6 @@
 // its own viewmanage_<family>.cpp when its widget is written.
 #include "views/viewmanage.h"
 
-// ---- button
-
-int ViewManage::View_ChangeButtonParam(unsigned int, const View_ImageText*)
-{
-    return -1;
-}
-
-int ViewManage::View_CreateButton(const View_ImageText*, unsigned int)
-{
-    return -1;
-}
-
-// ---- texts
-
-int ViewManage::View_CarouselText(unsigned int, int, int)
-{
-    return -1;
-}
-
-int ViewManage::View_ChangeFontColor(unsigned int, const Brush*)
-{
-    return 0;
-}
-
-int ViewManage::View_ChangeText(unsigned int, const char*, const Font*)
-{
-    return 0;
-}
-
-int ViewManage::View_ChangeTextParam(unsigned int, const View_Text*)
-{
-    return -1;
-}
-
-int ViewManage::View_ChangeTitle(unsigned int, const View_Text*)
-{
-    return -1;
-}
-
-int ViewManage::View_CreateText(const View_Text*, unsigned int)
-{
-    return -1;
-}
-
-int ViewManage::View_IsTextOutOfRange(unsigned int, int)
-{
-    return -1;
-}
-
 // ---- graphic shapes
 
 int ViewManage::View_ChangePen(unsigned int, const Pen*)
@@ -218,18 +169,6 @@ int ViewManage::View_PipelineUpdateFlowShapeColor(unsigned int, unsigned int)
 int ViewManage::View_PipelineUpdateFlowrate(unsigned int, unsigned int)
 {
     return -1;
-}
-
-// ---- QR code
-
-int ViewManage::View_CreateQRCode(const View_QRCode*, unsigned int)
-{
-    return -1;
-}
-
-int ViewManage::View_UpdateQRCodeContent(unsigned int, const char*)
-{
-    return 0;
 }
 
 // ---- pie chart and groups

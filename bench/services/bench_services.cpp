@@ -184,10 +184,12 @@ void benchMqtt()
     }
     const QByteArray uri = "tcp://127.0.0.1:" + QByteArray::number(broker.port());
     for (int qos : {0, 1}) {
-        const int n = qos == 0 ? 20000 : 5000;
+        const int n = qos == 0 ? 20000 : 10000;
         Counter received;
         const QByteArray topic = "bench/q" + QByteArray::number(qos);
-        MQTTAsync sub = pahoClient(uri, "bench-sub", &received, topic.constData(), qos);
+        // The subscriber takes QoS 0, so that the broker's per-subscriber queue limits
+        // of QoS 1 do not drop messages; the publishers use the QoS measured.
+        MQTTAsync sub = pahoClient(uri, "bench-sub", &received, topic.constData(), 0);
 
         // ours
         const unsigned h = MQTT::Mqtt_CreateClient();

@@ -51,12 +51,16 @@ void onResult(DbQueryResult* r)
     g_results.list.append(*r);
 }
 
+/* Runs the event loop (bounded) until \a n results are in. Sleeps only while no event
+ * comes, so each result is handed over as soon as it is ready. */
 bool waitForResults(int n, int timeoutMs = 60000)
 {
     QElapsedTimer t;
     t.start();
+    QTimer tick; // wakes the loop to look at the clock
+    tick.start(100);
     while (g_results.list.size() < n && t.elapsed() < timeoutMs)
-        QTest::qWait(5);
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     return g_results.list.size() >= n;
 }
 
@@ -416,7 +420,7 @@ void tst_Database::broken_connections_answer_every_request_with_an_error()
     // A file that is not a database (its WAL switch fails, it is used all the same) and a
     // driver that does not exist: every request still gets its one answer.
     for (unsigned db : {unsigned(kNotADatabase), unsigned(kBadDriver)}) {
-        xDatabase::db_query(db, db * 10 + 1, "select 1", true);
+        xDatabase::db_query(db, db * 10 + 1, "select count(*) from sqlite_master", true);
         xDatabase::db_query(db, db * 10 + 2, "create table x (v int)", false);
     }
     QVERIFY(waitForResults(4));

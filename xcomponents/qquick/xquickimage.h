@@ -1,0 +1,26 @@
+#ifndef XQUICKIMAGE_H
+#define XQUICKIMAGE_H
+
+#include <QtQuick/private/qquickimage_p.h>
+
+/**
+ * The image item of the library's widgets (the Qt Quick image item with its
+ * source and sourceSize). It stretches its picture to its box by default.
+ *
+ * An item made from C++ has no QML context; ensureContext() gives it the one
+ * of \a from (or the engine's root context) so that it can load "image://" URLs.
+ */
+class XQuickImage : public QQuickImage
+{
+    Q_OBJECT
+
+public:
+    explicit XQuickImage(QQuickItem* parent = nullptr);
+    ~XQuickImage() override;
+
+    /** Gives the item a QML context when it has none: \a from's, else the library engine's
+     *  root context. False when no engine is known. */
+    bool ensureContext(const QObject* from);
+};
+
+#endif // XQUICKIMAGE_H
