@@ -3,6 +3,7 @@
 #include "demologic.h"
 
 #include <csignal>
+#include <cstdlib>
 #include <cstdio>
 #include <string>
 #include <unistd.h>
@@ -21,6 +22,84 @@ const unsigned kWindow2 = (kDesk << 16) | 2;
 const unsigned kPopup = (kDesk << 16) | 3;
 unsigned g_current = 0;
 
+// widget ids of window 1
+const unsigned kTitle = 100, kCarousel = 101, kStart = 110, kGrey = 111, kDisabled = 112, kPicture = 113,
+               kQr = 120, kClock = 102;
+bool g_window1Built = false;
+int g_batch = 41;
+
+Font font(int px, unsigned color, int weight = 400)
+{
+    Font f{};
+    f.pixelSize = px;
+    f.color = color;
+    f.weight = weight;
+    return f;
+}
+
+void text(unsigned id, Rect r, const char* s, const Font& f, unsigned align)
+{
+    View_TextLayout layout{align, 8, 0};
+    View_Text t{0, r, id, s, &f, &layout};
+    View_CreateText(&t, kWindow1);
+}
+
+void button(unsigned id, Rect r, const char* caption, const char* image, unsigned color)
+{
+    const Font f = font(22, color, 600);
+    View_TextLayout layout{QGUI_ALIGN_HCENTER | QGUI_ALIGN_VCENTER, 0, 0};
+    View_ImageText b{0, r, id, image, caption, &f, &layout};
+    View_CreateButton(&b, kWindow1);
+}
+
+/** A picture for the button, written where the panel looks for project images. */
+void writeButtonPicture()
+{
+    std::system("mkdir -p demo-project/tar/image");
+    if (FILE* f = std::fopen("demo-project/tar/image/button.svg", "w")) {
+        std::fputs("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 160 56'>"
+                   "<defs><linearGradient id='g' x1='0' y1='0' x2='0' y2='1'>"
+                   "<stop offset='0' stop-color='#5fb65f'/><stop offset='1' stop-color='#2e7d32'/></linearGradient></defs>"
+                   "<rect x='1' y='1' width='158' height='54' rx='10' fill='url(#g)' stroke='#1b5e20' stroke-width='2'/>"
+                   "</svg>", f);
+        std::fclose(f);
+    }
+    if (FILE* f = std::fopen("demo-project/tar/image/face.svg", "w")) {
+        std::fputs("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 160 56'>"
+                   "<rect x='1' y='1' width='158' height='54' rx='10' fill='#3b5b7e' stroke='#9fb6cf' stroke-width='2'/>"
+                   "</svg>", f);
+        std::fclose(f);
+    }
+}
+
+void buildWindow1()
+{
+    if (g_window1Built) {
+        // the widgets stayed cached while the window was closed: bring them back
+        for (unsigned id : {kTitle, kCarousel, kClock, kStart, kGrey, kDisabled, kPicture, kQr})
+            View_SetWidgetParent(id, kWindow1);
+        return;
+    }
+    g_window1Built = true;
+    text(kTitle, Rect{24, 20, 560, 48}, "Line 3 \xe2\x80\x93 filling station", font(34, 0xFFFFFFFFu, 700),
+         QGUI_ALIGN_LEFT | QGUI_ALIGN_VCENTER);
+    text(kClock, Rect{24, 70, 560, 32}, "Pressure 4.2 bar \xc2\xb7 \xe5\x8e\x8b\xe5\x8a\x9b\xe6\xad\xa3\xe5\xb8\xb8",
+         font(22, 0xFFCFD8E3u), QGUI_ALIGN_LEFT | QGUI_ALIGN_VCENTER);
+    text(kCarousel, Rect{24, 540, 976, 40},
+         "Notice: shift change at 14:00 \xe2\x80\x94 check the filler nozzles before restarting line 3 \xe2\x80\x94 ",
+         font(24, 0xFFFFD54Fu), QGUI_ALIGN_LEFT | QGUI_ALIGN_VCENTER);
+    writeButtonPicture();
+    button(kStart, Rect{24, 140, 180, 64}, "Start", "face.svg", 0xFFFFFFFFu);
+    button(kGrey, Rect{224, 140, 180, 64}, "Greyed", "face.svg", 0xFFFFFFFFu);
+    View_SetDisableFlag(kGrey, 4);
+    button(kDisabled, Rect{24, 224, 180, 64}, "Disabled", "face.svg", 0xFFFFFFFFu);
+    View_SetDisableFlag(kDisabled, 2);
+    button(kPicture, Rect{224, 224, 180, 64}, "Picture", "button.svg", 0xFFFFFFFFu);
+    View_QRCode qr{0, Rect{760, 140, 220, 220}, kQr, 1, 0xFF1C2733u, 0xFFFFFFFFu};
+    View_CreateQRCode(&qr, kWindow1);
+    View_UpdateQRCodeContent(kQr, "batch 0041 / line 3");
+}
+
 void showWindow(unsigned windowId)
 {
     if (g_current && g_current != windowId)
@@ -32,6 +111,8 @@ void showWindow(unsigned windowId)
                                         : Brush{BRUSH_SOLID, 0xFFECEFF3u, 0, 0};
     View_SwitchWindow(&w);
     g_current = windowId;
+    if (windowId == kWindow1)
+        buildWindow1();
     if (windowId == kWindow2) {
         // a camera view is not available on this panel: its placeholder shows where it belongs
         View_CameraIP cam{};
@@ -103,6 +184,14 @@ ErrRet onEvent(unsigned id, int code, void* data)
     std::fflush(stdout);
     if (code == EVT_POPUP_CLOSE && id == kPopup)
         closePopup(); // the close button only reports: closing is the logic layer's decision
+    if (id == kStart && (code == EVT_WIDGET_PRESS || code == EVT_WIDGET_RELEASE)) {
+        // the button keeps no state: the logic layer writes what it shows
+        const bool pressed = code == EVT_WIDGET_PRESS;
+        const Font f = font(22, pressed ? 0xFFFFEB3Bu : 0xFFFFFFFFu, 600);
+        View_TextLayout layout{QGUI_ALIGN_HCENTER | QGUI_ALIGN_VCENTER, 0, 0};
+        View_ImageText b{0, Rect{24, 140, 180, 64}, kStart, nullptr, pressed ? "Running" : "Start", &f, &layout};
+        View_ChangeButtonParam(kStart, &b); // always -1 by design: not a failure
+    }
     return 0;
 }
 
@@ -132,7 +221,11 @@ int onStart()
     return 0;
 }
 
-void every10ms() {}
+void every10ms()
+{
+    if (g_current == kWindow1)
+        View_CarouselText(kCarousel, -2, 0); // the notice scrolls to the left, 2 px per 10 ms
+}
 
 void every100ms(int)
 {
@@ -150,7 +243,19 @@ void every100ms(int)
     case 48: View_SetLight(40); break; // dimmed: the next touch only wakes the panel
     case 50: screenshot("5-dimmed"); break;
     case 55: View_SetLight(100); break;
+    case 8: { // the operator presses Start (simulated when nobody is at the panel)
+        ErrRet r = onEvent(kStart, EVT_WIDGET_PRESS, nullptr);
+        (void)r;
+        break;
+    }
+    case 9: screenshot("0-texts-buttons"); break;
+    case 12: { ErrRet r = onEvent(kStart, EVT_WIDGET_RELEASE, nullptr); (void)r; break; }
     default:
+        if (g_ticks100 % 30 == 0) { // a new batch every 3 s: the QR code follows
+            char qr[64];
+            std::snprintf(qr, sizeof(qr), "batch %04d / line 3", ++g_batch);
+            View_UpdateQRCodeContent(kQr, qr); // ignored while window 1 is closed
+        }
         if (g_ticks100 > 55 && g_ticks100 % 30 == 0)
             showWindow(g_current == kWindow1 ? kWindow2 : kWindow1);
         break;
