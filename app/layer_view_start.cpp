@@ -9,7 +9,6 @@
 #include "config/globalconfig.h"
 #include "config/qmltypes.h"
 #include "config/xeventfilter.h"
-#include "app/imagegraber.h"
 #include "platform/logiclayercaller.h"
 #include "views/qmlwindowmanage.h"
 #include "views/viewmanage.h"
@@ -96,9 +95,7 @@ int View_MainThreadLoop(int argc, char** argv, const _Main_CallBacks* callbacks)
     view->setXResizeMode(XQuickView::SizeRootObjectToViewFirst);
     view->installEventFilter(XEventFilter::getInstance());
     XQmlComponentManage::getInstance()->setEngine(view->engine());
-    ViewManage* vm = ViewManage::getInstance(); // made before any logic-layer call can reach it
-    ImageGraber::instance()->setWindowResolver(
-        [vm](unsigned windowId) { return vm->windowManage()->getWindowObj(windowId); });
+    ViewManage::getInstance(); // made before any logic-layer call can reach it
     app->init();
     LogicLayerCaller::setCallBack(callbacks->event);
     FontMange::getInstance()->loadDefaultFont();
@@ -116,7 +113,6 @@ int View_MainThreadLoop(int argc, char** argv, const _Main_CallBacks* callbacks)
     }
 
     // 18. the registry's items go first, while their scene and engine still exist
-    ImageGraber::instance()->setWindowResolver(nullptr);
     ViewManage::destroyInstance();
     XQmlComponentManage::getInstance()->setEngine(nullptr);
     app->setView(nullptr);

@@ -1,5 +1,6 @@
 #include "views/viewmanage.h"
 
+#include "app/imagegraber.h"
 #include "platform/gid.h"
 #include "platform/guiqtadaptcore.h"
 #include "views/curvesamplecharttimemodecontroller.h"
@@ -35,11 +36,15 @@ ViewManage::ViewManage()
     , m_timeMode(std::make_unique<CurveSampleChartTimeModeController>())
 {
     XQmlComponentManage::getInstance()->setWindowManage(m_windowManage.get());
+    // screenshots of a window find it here
+    QmlWindowManage* wm = m_windowManage.get();
+    ImageGraber::instance()->setWindowResolver([wm](unsigned windowId) { return wm->getWindowObj(windowId); });
 }
 
 ViewManage::~ViewManage()
 {
     // the registry owns its items: delete them now, while the scene and engine still exist
+    ImageGraber::instance()->setWindowResolver(nullptr);
     const QList<QQuickItem*> items = m_lifeCycle->allItems();
     m_idHash.clear();
     qDeleteAll(items);

@@ -138,8 +138,12 @@ int ViewManage::View_SetDialogMoveControl(unsigned int windowId, bool movable)
 
 int ViewManage::View_PopupMsg(const char* text, unsigned int life)
 {
-    // may be called from any thread: the text is copied now and shown on the GUI thread
-    const QString message = GuiQtAdapt::Core::fromUtf8(text);
+    // may be called from any thread: the text is copied now and shown on the GUI thread;
+    // a message longer than a screen can show is cut, so laying it out never stalls the panel
+    constexpr int kMaxMessage = 4096;
+    QString message = GuiQtAdapt::Core::fromUtf8(text);
+    if (message.size() > kMaxMessage)
+        message = message.left(kMaxMessage - 1) + QChar(0x2026);
     QmlWindowManage* wm = m_windowManage.get();
     QMetaObject::invokeMethod(
         wm, [wm, message, life]() { wm->popMsg(message, life); }, Qt::QueuedConnection);

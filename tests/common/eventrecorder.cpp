@@ -45,6 +45,7 @@ int EventRecorder::payloadSize(int code)
     case 1542: case 1544: return sizeof(int);
     case 1793: case 1794: return sizeof(unsigned) + sizeof(int);
     case 2049: case 2052: return sizeof(int);
+    case 2051: return sizeof(int); // the result field of the screenshot record
     case 2305: return 2 * sizeof(unsigned);
     case 2561: return 2 * sizeof(int);
     default: return 0;

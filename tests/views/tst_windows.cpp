@@ -15,7 +15,9 @@
 #include "xcomponents/qquick/xwindow.h"
 #include "xcomponents/qquick/xwindowtitile.h"
 
+#include <QImage>
 #include <QQuickItem>
+#include <QTemporaryDir>
 
 #include <thread>
 
@@ -38,6 +40,7 @@ private Q_SLOTS:
     void windows_switch_and_report_geometry();
     void unknown_windows_give_their_fixed_results();
     void bad_records_and_texts();
+    void screenshots_of_the_panel_and_of_a_window();
 
 private:
     XLumoDialog* dialog(unsigned id) { return ViewManage::getInstance()->windowManage()->findDialog(id); }
@@ -314,7 +317,53 @@ void tst_Windows::bad_records_and_texts()
     std::string huge(1 << 20, 'x');
     QCOMPARE(View_PopupMsg(huge.c_str(), 1), 0);
     QCOMPARE(View_ChangeWindowTitle(P, huge.c_str()), 0);
+    QCOMPARE(qobject_cast<WindowTitile*>(dialog(P)->header())->title().size(), 512); // cut, not laid out whole
     PanelFixture::settle();
+}
+
+void tst_Windows::screenshots_of_the_panel_and_of_a_window()
+{
+    QTemporaryDir dir;
+    const QByteArray panelPng = (dir.path() + "/sub/panel.png").toUtf8();
+    View_ScreenShotData d{};
+    d.mode = SCREENSHOT_GRAB;
+    d.path = panelPng.constData();
+    QCOMPARE(View_ScreenShot(77, &d), 0);
+    QTRY_COMPARE(m_rec.count(EVT_SCREENSHOT), 1); // written asynchronously
+    QCOMPARE(m_rec.eventsWithCode(EVT_SCREENSHOT).first().id, 77u);
+    QCOMPARE(m_rec.eventsWithCode(EVT_SCREENSHOT).first().intAt(0), 0);
+    QCOMPARE(QImage(QString::fromUtf8(panelPng)).size(), QSize(800, 480));
+
+    const QByteArray partPng = (dir.path() + "/part.png").toUtf8();
+    d.windowId = A;
+    d.rect = Rect{10, 10, 100, 50};
+    d.path = partPng.constData();
+    QCOMPARE(View_ScreenShot(78, &d), 0);
+    QTRY_COMPARE(m_rec.count(EVT_SCREENSHOT), 2);
+    QCOMPARE(QImage(QString::fromUtf8(partPng)).size(), QSize(100, 50));
+
+    d.mode = SCREENSHOT_LOAD; // read back: the pixels come with the event
+    QCOMPARE(View_ScreenShot(79, &d), 0);
+    QCOMPARE(m_rec.count(EVT_SCREENSHOT), 3);
+    QCOMPARE(m_rec.eventsWithCode(EVT_SCREENSHOT).last().intAt(0), 0);
+    d.path = "/no/such/file.png";
+    QCOMPARE(View_ScreenShot(80, &d), -1);
+    QCOMPARE(m_rec.eventsWithCode(EVT_SCREENSHOT).last().intAt(0), -1);
+
+    m_rec.clear();
+    d.mode = SCREENSHOT_GRAB;
+    d.path = partPng.constData();
+    d.windowId = PanelFixture::wid(1, 999);
+    QCOMPARE(View_ScreenShot(81, &d), -1); // unknown window: nothing started, no event
+    d.windowId = 0;
+    d.path = "";
+    QCOMPARE(View_ScreenShot(82, &d), -1);
+    d.path = partPng.constData();
+    d.mode = 9;
+    QCOMPARE(View_ScreenShot(83, &d), -1);
+    QCOMPARE(View_ScreenShot(84, nullptr), -1);
+    QTest::qWait(50);
+    QCOMPARE(m_rec.count(EVT_SCREENSHOT), 0);
 }
 
 QGUI_GUIAPP_TEST_MAIN(tst_Windows)

@@ -12,8 +12,11 @@ WindowTitile::WindowTitile(QQuickItem* parent)
     m_font.setPixelSize(18);
 }
 
-void WindowTitile::setTitle(const QString& title)
+void WindowTitile::setTitle(const QString& text)
 {
+    // a title longer than any bar is cut, so eliding it never stalls the panel
+    constexpr int kMaxTitle = 512;
+    const QString title = text.size() > kMaxTitle ? text.left(kMaxTitle - 1) + QChar(0x2026) : text;
     if (m_title == title)
         return;
     m_title = title;

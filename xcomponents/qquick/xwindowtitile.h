@@ -25,6 +25,7 @@ public:
     explicit WindowTitile(QQuickItem* parent = nullptr);
 
     QString title() const { return m_title; }
+    /** Sets the title; titles longer than 512 characters are cut and end in an ellipsis. */
     void setTitle(const QString& title);
     void setTitleFont(const QFont& font);
     void setTitleColor(const QColor& color);

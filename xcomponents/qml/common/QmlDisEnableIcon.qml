@@ -1,23 +1,18 @@
 import QtQuick 2.15
+import QQuickHalvex 1.0
 
-// The disabled-state look of a widget: a light veil with a "no entry" mark.
+// The disabled-state look of a widget: a light veil and a "no entry" mark
+// tinted in the widget's disabled colour.
 Item {
     anchors.fill: parent
     Rectangle { anchors.fill: parent; color: "#80ffffff" }
-    Rectangle {
-        width: Math.max(12, Math.min(parent.width, parent.height) * 0.5)
-        height: width
-        radius: width / 2
+    XDisEnableIcon {
+        objectName: "disEnableMark"
+        readonly property int side: Math.max(12, Math.min(parent.width, parent.height) * 0.5)
         anchors.centerIn: parent
-        color: "transparent"
-        border.color: "#c0392b"
-        border.width: Math.max(2, width / 10)
-        Rectangle {
-            width: parent.width * 0.75
-            height: parent.border.width
-            anchors.centerIn: parent
-            rotation: -45
-            color: "#c0392b"
-        }
+        iconSource: "qrc:/svg/disabled.svg"
+        iconSize: Qt.size(side, side)
+        color: "#c0392b"
+        disabledColor: "#7f8c8d"
     }
 }
