@@ -16,6 +16,7 @@ PACKAGES=(
   qml-module-qtquick-controls2 qml-module-qtquick-templates2 qml-module-qtquick-shapes
   qml-module-qt-labs-calendar qml-module-qttest qml-module-qtqml-models2
   # libraries
+  qttools5-dev-tools
   libqcustomplot-dev libqrcodegencpp-dev libpaho-mqtt-dev libssl-dev
   libspdlog-dev libfmt-dev
   # headless display with real OpenGL (Mesa), and CJK-capable fonts

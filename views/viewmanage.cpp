@@ -113,7 +113,7 @@ int ViewManage::createPlaceholder(unsigned header, const Rect& rect, unsigned id
     const QRect r = GuiQtAdapt::Core::toQRect(rect);
     QQuickItem* item = newUnsupportFeatureImage(parent, r.topLeft(), r.size(), id, windowId);
     if (auto* placeholder = qobject_cast<XInvalidFeature*>(item))
-        placeholder->setFeatureName(name + QStringLiteral(" (not available)"));
+        placeholder->setFeatureName(name + QStringLiteral(" (") + XInvalidFeature::tr("not available") + QLatin1Char(')'));
     WidgetPropertyManage::applyHeader(item, header);
     return 0;
 }

@@ -63,6 +63,8 @@ void tst_Config::language_mapping()
     QCOMPARE(spy.count(), 1);
     QCOMPARE(cfg->getLocale().language(), chinese ? QLocale::Chinese : QLocale::English);
     QCOMPARE(GlobalInfo::instance()->locale(), cfg->getLocale());
+    QCOMPARE(QCoreApplication::translate("QmlMessageBox", "Message"),
+             chinese ? QString::fromUtf8("消息") : QString("Message")); // the embedded translation
     cfg->setLocale(1u);
 }
 
