@@ -100,23 +100,23 @@ Rectangle {
     }
 
     function isLetter(t) { return t.length === 1 && t.toUpperCase() !== t.toLowerCase() }
-    function typedText(spec) {
-        return shiftState > 0 && isLetter(spec.text) ? spec.text.toUpperCase() : spec.text
+    function typedText(keyDef) {
+        return shiftState > 0 && isLetter(keyDef.text) ? keyDef.text.toUpperCase() : keyDef.text
     }
 
-    function activate(spec) {
-        if (spec.action === "shift") {
+    function activate(keyDef) {
+        if (keyDef.action === "shift") {
             shiftState = (shiftState + 1) % 3
             return
         }
-        if (spec.action === "page") {
+        if (keyDef.action === "page") {
             symbolPage = !symbolPage
             shiftState = 0
             return
         }
         if (emitter)
-            emitter.sendKey(spec.key, typedText(spec))
-        if (shiftState === 1 && isLetter(spec.text))
+            emitter.sendKey(keyDef.key, typedText(keyDef))
+        if (shiftState === 1 && isLetter(keyDef.text))
             shiftState = 0
     }
 
