@@ -1,6 +1,7 @@
 // One start-up measured in a fresh process (one application object per
 // process): "ours" runs View_MainThreadLoop up to the first frame of the
-// panel; "bare" shows an empty scene in a plain QQuickView. Prints the time
+// panel; "bare" shows an empty scene in a plain QQuickView with the same
+// multisampled surface format. Prints the time
 // from process entry to the first swapped frame in milliseconds.
 #include "app/guiapplication.h"
 #include "app/xquickview.h"
@@ -8,6 +9,7 @@
 #include <QGuiApplication>
 #include <QQuickItem>
 #include <QQuickView>
+#include <QSurfaceFormat>
 #include <QTimer>
 
 #include <chrono>
@@ -51,6 +53,12 @@ int main(int argc, char** argv)
         char* args[] = {argv[0], nullptr};
         View_MainThreadLoop(1, args, &cb);
     } else {
+        // the same multisampled surface the panel asks for, so only the start-up work differs
+        if (const int samples = GuiApplication::antialiasingSamples(); samples > 0) {
+            QSurfaceFormat format = QSurfaceFormat::defaultFormat();
+            format.setSamples(samples);
+            QSurfaceFormat::setDefaultFormat(format);
+        }
         QGuiApplication app(argc, argv);
         QQuickView view;
         QObject::connect(&view, &QQuickWindow::frameSwapped, &app, [] {
