@@ -1,6 +1,5 @@
 #include "platform/nlogger.h"
 
-#include <spdlog/async.h>
 #include <spdlog/sinks/rotating_file_sink.h>
 #include <spdlog/sinks/stdout_color_sinks.h>
 
@@ -33,6 +32,69 @@ NLogger::NLogger()
     std::error_code ec;
     std::filesystem::create_directories(defaultFolder(), ec);
     build(defaultFolder() + "/qgui.log");
+    m_writer = std::thread([this]() { writerLoop(); });
+}
+
+NLogger::~NLogger()
+{
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        m_stop = true;
+    }
+    m_wake.notify_one();
+    if (m_writer.joinable())
+        m_writer.join();
+    flush();
+}
+
+void NLogger::submit(spdlog::level::level_enum lvl, std::string&& text)
+{
+    if (lvl >= spdlog::level::warn) {
+        flush(); // keep the order: everything before a warning is written first
+        logger()->log(lvl, text);
+        return;
+    }
+    std::lock_guard<std::mutex> lock(m_mutex);
+    m_pending.push_back(Pending{spdlog::log_clock::now(), lvl, std::move(text)});
+}
+
+void NLogger::writeOut(std::vector<Pending>& lines)
+{
+    spdlog::logger* l = logger();
+    for (Pending& p : lines)
+        l->log(p.time, spdlog::source_loc{}, p.level, p.text);
+    lines.clear();
+}
+
+void NLogger::flush()
+{
+    std::lock_guard<std::mutex> writing(m_writeMutex); // batches are written whole and in order
+    std::vector<Pending> lines;
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        lines.swap(m_pending);
+    }
+    writeOut(lines);
+    logger()->flush();
+}
+
+void NLogger::writerLoop()
+{
+    std::vector<Pending> lines;
+    for (;;) {
+        {
+            std::unique_lock<std::mutex> lock(m_mutex);
+            m_wake.wait_for(lock, std::chrono::milliseconds(50));
+            if (m_stop)
+                return;
+        }
+        std::lock_guard<std::mutex> writing(m_writeMutex);
+        {
+            std::lock_guard<std::mutex> lock(m_mutex);
+            lines.swap(m_pending);
+        }
+        writeOut(lines);
+    }
 }
 
 void NLogger::build(const std::string& file)
@@ -52,17 +114,14 @@ void NLogger::build(const std::string& file)
     } catch (const spdlog::spdlog_ex&) {
         m_file.clear(); // no writable file: stderr only
     }
-    static std::shared_ptr<spdlog::details::thread_pool> pool
-        = std::make_shared<spdlog::details::thread_pool>(8192, 1);
-    std::shared_ptr<spdlog::logger> logger = std::make_shared<spdlog::async_logger>("qgui", sinks.begin(), sinks.end(), pool,
-                                                         spdlog::async_overflow_policy::block);
+    auto logger = std::make_shared<spdlog::logger>("qgui", sinks.begin(), sinks.end());
     // QGUI_LOG_LEVEL: trace, debug, info (default), warn, err, critical, off
     const char* lvl = std::getenv("QGUI_LOG_LEVEL");
     logger->set_level(lvl && *lvl ? spdlog::level::from_str(lvl) : spdlog::level::info);
-    logger->set_pattern("[%Y-%m-%d %H:%M:%S.%e] [%l] [t%t] %v");
+    logger->set_pattern("[%Y-%m-%d %H:%M:%S.%e] [%l] %v");
     logger->flush_on(spdlog::level::warn);
-    if (m_logger)
-        m_logger->flush();
+    if (auto old = std::atomic_load(&m_logger))
+        old->flush();
     std::atomic_store(&m_logger, logger);
 }
 

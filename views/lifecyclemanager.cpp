@@ -69,7 +69,8 @@ void LifeCycleManager::removeItemParent(const ItemPair& pair)
 {
     if (!pair.second)
         return;
-    pair.second->setParent(nullptr);
+    if (pair.second->parent())
+        pair.second->setParent(nullptr);
     saveItem(pair);
 }
 

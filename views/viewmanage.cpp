@@ -95,7 +95,9 @@ QQuickItem* ViewManage::getItemById(unsigned id) const
 QQuickItem* ViewManage::newUnsupportFeatureImage(QQuickItem* parent, QPoint pos, QSize size, unsigned id,
                                                  unsigned windowId)
 {
-    auto* item = new XInvalidFeature(parent);
+    // made without an object parent: the registry owns it, so there is none to clear later
+    auto* item = new XInvalidFeature;
+    item->setParentItem(parent);
     item->setPosition(pos);
     item->setSize(QSizeF(qMax(0, size.width()), qMax(0, size.height())));
     GId::setId(item, id);

@@ -72,6 +72,7 @@ int main(int argc, char** argv)
             item->deleteLater();
         items.clear();
         PanelFixture::settle();
+        QTest::qWait(30); // the previous run's log lines and frame are finished before the next run
     };
     auto createOurs = [&] {
         for (int i = 0; i < 1000; ++i) {
