@@ -3,7 +3,9 @@
 #include "app/guiapplication.h"
 #include "app/xquickview.h"
 #include "testutil.h"
+#include "views/qmlwindowmanage.h"
 #include "views/viewmanage.h"
+#include "xcomponents/qquick/xbasecontrol.h"
 #include "views/xqmlcomponentmanage.h"
 
 #include <QQuickItem>
@@ -109,6 +111,18 @@ void PanelFixture::touch(QPoint p)
 {
     QTest::touchEvent(m_view.get(), m_touch).press(0, p, m_view.get());
     QTest::touchEvent(m_view.get(), m_touch).release(0, p, m_view.get());
+}
+
+XBaseControl* PanelFixture::control(unsigned id, unsigned windowId, QPointF pos)
+{
+    QQuickItem* content = ViewManage::getInstance()->windowManage()->getWindow(windowId);
+    auto* c = new XBaseControl(content);
+    c->setSize({80, 50});
+    c->setPosition(pos);
+    c->setId(id);
+    c->setWindowId(windowId);
+    ViewManage::getInstance()->appendItem(id, c);
+    return c;
 }
 
 void PanelFixture::settle()

@@ -38,6 +38,10 @@ public:
     int popup(unsigned windowId, const Rect& rect, int z = 10, bool modal = false, unsigned buttons = 0x7,
               const char* title = "popup");
 
+    /** A plain registered control (it reports its own presses as events 2 and 3) placed in the
+     *  window \a windowId at \a pos, 80 x 50. */
+    static class XBaseControl* control(unsigned id, unsigned windowId, QPointF pos = QPointF(50, 50));
+
     /** The scene position of a point of \a item, as the view receives it. */
     QPoint scenePoint(const QQuickItem* item, QPointF local) const;
     QPoint sceneCenter(const QQuickItem* item) const;

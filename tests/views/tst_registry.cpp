@@ -36,7 +36,6 @@ private Q_SLOTS:
 
 private:
     unsigned placeholder(unsigned id, unsigned windowId, Rect r = Rect{10, 20, 30, 40});
-    XBaseControl* control(unsigned id, unsigned windowId);
 
     PanelFixture m_panel;
     EventRecorder m_rec;
@@ -66,17 +65,6 @@ unsigned tst_Registry::placeholder(unsigned id, unsigned windowId, Rect r)
     return unsigned(View_CreateCameraIP(&rec, windowId));
 }
 
-XBaseControl* tst_Registry::control(unsigned id, unsigned windowId)
-{
-    QQuickItem* content = ViewManage::getInstance()->windowManage()->getWindow(windowId);
-    auto* c = new XBaseControl(content);
-    c->setSize({100, 60});
-    c->setPosition({50, 50});
-    c->setId(id);
-    c->setWindowId(windowId);
-    ViewManage::getInstance()->appendItem(id, c);
-    return c;
-}
 
 void tst_Registry::caches_follow_create_close_reparent_and_delete()
 {
@@ -238,7 +226,7 @@ void tst_Registry::disable_flags()
     QFETCH(uint, flags);
     QFETCH(bool, icon);
     QFETCH(bool, gray);
-    XBaseControl* c = control(601, A);
+    XBaseControl* c = PanelFixture::control(601, A);
     QCOMPARE(View_SetDisableFlag(601, flags), 0);
     QCOMPARE(c->disEnableIcon() && c->disEnableIcon()->isVisible(), icon);
     QCOMPARE(c->grayFlag(), gray);
@@ -267,7 +255,7 @@ void tst_Registry::opacity_rectangle_and_move()
     QCOMPARE(r.height, 40);
     QCOMPARE(View_MoveWidget(701, 5, 6), 0); // a painted item moves
     QCOMPARE(item->position(), QPointF(5, 6));
-    control(702, A);
+    PanelFixture::control(702, A);
     QCOMPARE(View_MoveWidget(702, 5, 6), -1); // a plain control does not
     QCOMPARE(View_HideWidget(702, ITEM_SLASH_SLASH), -1);
     QVERIFY(Utils::lastAssertLocation().startsWith("\"0\" in file qgui/views/ViewManage"));
@@ -290,7 +278,7 @@ ErrRet deleteOnPress(unsigned id, int code, void* data)
 
 void tst_Registry::deleting_a_widget_inside_its_own_press_handler()
 {
-    XBaseControl* c = control(801, A);
+    XBaseControl* c = PanelFixture::control(801, A);
     QPointer<XBaseControl> guard(c);
     g_pressed = c;
     g_validAfterDelete = false;

@@ -44,7 +44,6 @@ private Q_SLOTS:
 
 private:
     XLumoDialog* dialog(unsigned id) { return ViewManage::getInstance()->windowManage()->findDialog(id); }
-    XBaseControl* control(unsigned id, unsigned windowId, QPointF pos);
 
     PanelFixture m_panel;
     EventRecorder m_rec;
@@ -65,17 +64,6 @@ void tst_Windows::cleanup()
     m_panel.stop();
 }
 
-XBaseControl* tst_Windows::control(unsigned id, unsigned windowId, QPointF pos)
-{
-    QQuickItem* content = ViewManage::getInstance()->windowManage()->getWindow(windowId);
-    auto* c = new XBaseControl(content);
-    c->setSize({80, 50});
-    c->setPosition(pos);
-    c->setId(id);
-    c->setWindowId(windowId);
-    ViewManage::getInstance()->appendItem(id, c);
-    return c;
-}
 
 void tst_Windows::title_bar_reports_and_never_closes_by_itself_data()
 {
@@ -150,7 +138,7 @@ void tst_Windows::dimming_blocks_presses_but_reports_them()
     QFETCH(int, percent);
     QFETCH(int, alpha);
     QFETCH(bool, touch);
-    XBaseControl* c = control(11, A, {300, 200});
+    XBaseControl* c = PanelFixture::control(11, A, {300, 200});
     QCOMPARE(View_SetLight(percent), 0);
     XPopup* lighter = ViewManage::getInstance()->windowManage()->lighter(1);
     QVERIFY(lighter);
@@ -173,7 +161,7 @@ void tst_Windows::dimming_blocks_presses_but_reports_them()
 
 void tst_Windows::window_hands_presses_to_the_widget_under_the_finger()
 {
-    XBaseControl* under = control(21, A, {100, 100});
+    XBaseControl* under = PanelFixture::control(21, A, {100, 100});
     XWindow* win = ViewManage::getInstance()->windowManage()->findWindow(A);
     QVERIFY(win);
     m_rec.clear();
@@ -198,7 +186,7 @@ void tst_Windows::window_hands_presses_to_the_widget_under_the_finger()
 
 void tst_Windows::modal_popup_keeps_presses_from_the_window()
 {
-    XBaseControl* c = control(31, A, {20, 400});
+    XBaseControl* c = PanelFixture::control(31, A, {20, 400});
     QCOMPARE(m_panel.popup(P, Rect{200, 100, 300, 200}, 10, true), 0);
     m_rec.clear();
     m_panel.click(m_panel.sceneCenter(c));
