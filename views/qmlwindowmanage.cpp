@@ -165,14 +165,13 @@ bool QmlWindowManage::showDesktop(unsigned n, bool show)
     return true;
 }
 
-bool QmlWindowManage::closeDesktop(unsigned n)
+bool QmlWindowManage::closeDesktop(unsigned n, QHash<unsigned, QQuickItem*>& idHash)
 {
     if (!m_desktops.contains(n))
         return false;
-    QHash<unsigned, QQuickItem*> scratch;
     for (XLumoDialog* d : dialogs()) {
         if (GetDeskNoFromWndId(d->getWindowId()) == n)
-            closeWindow(d->getWindowId(), scratch);
+            closeWindow(d->getWindowId(), idHash);
     }
     for (XWindow* w : windows()) {
         if (GetDeskNoFromWndId(w->getWindowId()) == n)

@@ -48,7 +48,9 @@ public:
     QQuickItem* getDeskTop(unsigned n) const;
     XOverlay* getOverlay(unsigned n) const;
     bool showDesktop(unsigned n, bool show);
-    bool closeDesktop(unsigned n);
+    /** Closes the desktop's popups (their widgets go to the caches and leave \a idHash), its
+     *  windows, overlay and dimming layer. */
+    bool closeDesktop(unsigned n, QHash<unsigned, QQuickItem*>& idHash);
     unsigned currentDesktop() const { return m_currentDesk; }
 
     // windows and popup windows

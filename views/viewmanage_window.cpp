@@ -39,7 +39,7 @@ int ViewManage::View_HideDesktop(unsigned int desktopNo)
 
 int ViewManage::View_CloseDesktop(unsigned int desktopNo)
 {
-    m_windowManage->closeDesktop(desktopNo);
+    m_windowManage->closeDesktop(desktopNo, m_idHash);
     return 0;
 }
 

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void cleanup();
     void caches_follow_create_close_reparent_and_delete();
     void creation_needs_a_window_and_a_record();
+    void closing_a_desktop_caches_its_popup_widgets();
     void an_id_created_again_replaces_its_widget();
     void show_from_cache_reports_an_unknown_id();
     void unknown_ids_give_their_fixed_results_data();
@@ -112,6 +113,21 @@ void tst_Registry::caches_follow_create_close_reparent_and_delete()
     PanelFixture::settle();
     QVERIFY(!doomed);
     QCOMPARE(Utils::assertCount(), 0);
+}
+
+void tst_Registry::closing_a_desktop_caches_its_popup_widgets()
+{
+    auto* vm = ViewManage::getInstance();
+    QCOMPARE(m_panel.popup(P, Rect{100, 100, 300, 200}), 0);
+    QCOMPARE(placeholder(211, P), 0u);
+    QPointer<QQuickItem> item = vm->getItemById(211);
+    QCOMPARE(View_CloseDesktop(1), 0);
+    PanelFixture::settle();
+    QVERIFY(item); // kept in the cache, out of the scene
+    QVERIFY(!item->parentItem());
+    QVERIFY(!vm->idHash().contains(211));
+    QVERIFY(vm->lifeCycle()->isInvisibleEntry(211));
+    QVERIFY(!vm->windowManage()->getWindow(A));
 }
 
 void tst_Registry::creation_needs_a_window_and_a_record()

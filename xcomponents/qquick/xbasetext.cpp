@@ -11,11 +11,6 @@ XBaseText::XBaseText(QQuickItem* parent)
 
 XBaseText::~XBaseText() = default;
 
-void XBaseText::touch()
-{
-    update();
-}
-
 void XBaseText::setText(const QString& text)
 {
     if (m_text == text)
@@ -23,7 +18,7 @@ void XBaseText::setText(const QString& text)
     m_text = text;
     m_textDirty = true;
     Q_EMIT textChanged();
-    touch();
+    update();
 }
 
 void XBaseText::setFont(const QFont& font)
@@ -33,7 +28,7 @@ void XBaseText::setFont(const QFont& font)
     m_font = font;
     m_fontDirty = true;
     Q_EMIT fontChanged();
-    touch();
+    update();
 }
 
 void XBaseText::setColor(const QColor& color)
@@ -43,7 +38,7 @@ void XBaseText::setColor(const QColor& color)
     m_color = color;
     m_textDirty = true;
     Q_EMIT colorChanged();
-    touch();
+    update();
 }
 
 void XBaseText::setAlignment(int align)
@@ -52,7 +47,7 @@ void XBaseText::setAlignment(int align)
         return;
     m_alignment = align;
     m_textDirty = true;
-    touch();
+    update();
 }
 
 void XBaseText::setFontAlignment(int align)
@@ -61,7 +56,7 @@ void XBaseText::setFontAlignment(int align)
         return;
     m_fontAlignment = align;
     m_textDirty = true;
-    touch();
+    update();
 }
 
 void XBaseText::setMargin(const QPoint& margin)
@@ -70,7 +65,7 @@ void XBaseText::setMargin(const QPoint& margin)
         return;
     m_margin = margin;
     m_textDirty = true;
-    touch();
+    update();
 }
 
 void XBaseText::setLineSpace(int space)
@@ -79,7 +74,7 @@ void XBaseText::setLineSpace(int space)
         return;
     m_lineSpace = space;
     m_textDirty = true;
-    touch();
+    update();
 }
 
 void XBaseText::moveTo(int x, int y)
@@ -105,7 +100,7 @@ void XBaseText::setGrayFlag(bool on)
         return;
     m_gray = on;
     m_textDirty = true;
-    touch();
+    update();
 }
 
 void XBaseText::geometryChanged(const QRectF& newGeometry, const QRectF& oldGeometry)
@@ -113,7 +108,7 @@ void XBaseText::geometryChanged(const QRectF& newGeometry, const QRectF& oldGeom
     QQuickItem::geometryChanged(newGeometry, oldGeometry);
     if (newGeometry.size() != oldGeometry.size()) {
         m_textDirty = true;
-        touch();
+        update();
     }
 }
 
@@ -124,7 +119,7 @@ void XBaseText::itemChange(ItemChange change, const ItemChangeData& value)
         // the node may have been dropped while hidden: build it again
         m_textDirty = true;
         m_fontDirty = true;
-        touch();
+        update();
     }
 }
 

@@ -59,8 +59,6 @@ protected:
     void geometryChanged(const QRectF& newGeometry, const QRectF& oldGeometry) override;
 
 private:
-    void touch();
-
     QString m_text;
     QFont m_font;
     QColor m_color;
