@@ -2,6 +2,7 @@
 
 #include "app/xquickview.h"
 #include "config/fontmange.h"
+#include "config/globalconfig.h"
 #include "config/projectmanage.h"
 #include "platform/nlogger.h"
 #include "utils/processkiller.h"
@@ -230,7 +231,8 @@ int GuiApplication::antialiasingSamples()
         return 0;
     bool ok = false;
     const int samples = qEnvironmentVariableIntValue("X_ANTIALIASING_SAMPLES", &ok);
-    if (!ok || samples < 0)
+    // antialiasing is on whenever it is not disabled: fewer than 2 samples would switch it off
+    if (!ok || samples < 2)
         return 4;
     return qMin(samples, 16);
 }
@@ -239,4 +241,10 @@ void GuiApplication::onaboutToQuit()
 {
     const int n = ProcessKiller::killByName(commServerName());
     NLog::NLogger::instance()->logger()->info("quit: stopped {} communication server process(es)", n);
+}
+
+void GuiApplication::setView(XQuickView* view)
+{
+    m_view = view;
+    GlobalConfig::getInstance()->setScaleSource(view);
 }

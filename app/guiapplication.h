@@ -38,7 +38,8 @@ public:
     bool isPortraitOrientation() const { return m_rotation == 90 || m_rotation == 270; }
     void setupRotation() {}
 
-    void setView(XQuickView* view) { m_view = view; }
+    /** The panel's view; it also becomes the zoom that GlobalConfig::scale() reads. */
+    void setView(XQuickView* view);
     XQuickView* view() const { return m_view; }
 
     /** Calls slot 2 and starts the timers. */
@@ -63,7 +64,7 @@ public:
 
     /** Multisampling for the scene: 0 (antialiasing off) when "X_DISABLE_ANTIALIASING" reads as a
      *  non-zero integer; else "X_ANTIALIASING_SAMPLES" (at most 16), or 4 when that is unset,
-     *  negative or not a number. */
+     *  below 2 (which would switch antialiasing off) or not a number. */
     static int antialiasingSamples();
     /** The name of the communication server process stopped at quit. */
     static QString commServerName() { return QStringLiteral("relaybridge"); }

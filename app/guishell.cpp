@@ -12,9 +12,13 @@ GuiShell::GuiShell(QQuickItem* parent)
     : QQuickItem(parent)
 {
     g_shell = this;
+    PanelHost::install(this);
 }
 
-GuiShell::~GuiShell() = default;
+GuiShell::~GuiShell()
+{
+    PanelHost::uninstall(this);
+}
 
 GuiShell* GuiShell::instance()
 {

@@ -6,13 +6,15 @@
 #include <QQuickItem>
 #include <QString>
 
+#include "views/panelhost.h"
+
 /**
  * Root item of the shell scene "qrc:/shell/halvex.qml". It holds the panel
  * control (the child item with the property "guirect"), which receives the
  * desktops, and turns it by windowRotation. The last shell constructed is the
- * one instance() returns.
+ * one instance() returns, and the panel host of the window manager.
  */
-class GuiShell : public QQuickItem
+class GuiShell : public QQuickItem, public PanelHost
 {
     Q_OBJECT
     Q_PROPERTY(double windowRotation READ windowRotation WRITE setWindowRotation NOTIFY windowRotationChanged)
@@ -26,9 +28,9 @@ public:
     /** Finds the panel control by its "guirect" property. Called by the scene when complete. */
     Q_INVOKABLE void init();
     /** The panel control, or null before init(). */
-    QQuickItem* getGuiRect() const { return m_guiRect.data(); }
+    QQuickItem* getGuiRect() const override { return m_guiRect.data(); }
     /** The item inside the panel control that receives desktops (its content item). */
-    QQuickItem* getGuiContent() const;
+    QQuickItem* getGuiContent() const override;
     void setGuiRectScale(double scale);
 
     double windowRotation() const { return m_windowRotation; }

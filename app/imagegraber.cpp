@@ -3,6 +3,7 @@
 #include "app/guishell.h"
 #include "platform/logiclayercaller.h"
 #include "platform/nlogger.h"
+#include "xcomponents/qquick/xwindowlocator.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -31,7 +32,8 @@ QQuickItem* ImageGraber::itemFor(unsigned windowId) const
         GuiShell* shell = GuiShell::instance();
         return shell ? shell->getGuiRect() : nullptr;
     }
-    return m_resolver ? m_resolver(windowId) : nullptr;
+    const XWindowLocator* locator = XWindowLocator::instance();
+    return locator ? locator->getWindowObj(windowId) : nullptr;
 }
 
 void ImageGraber::report(unsigned id, int result, const QString& path)

@@ -22,8 +22,6 @@ class ImageGraber : public QObject
 public:
     static ImageGraber* instance();
 
-    /** Finds the item of a window id (set by the window manager). */
-    void setWindowResolver(std::function<QQuickItem*(unsigned)> resolver) { m_resolver = std::move(resolver); }
     /** The panel (windowId 0) or the window object with that id; null when unknown. */
     QQuickItem* itemFor(unsigned windowId) const;
 
@@ -41,7 +39,6 @@ private:
     explicit ImageGraber(QObject* parent = nullptr);
     void report(unsigned id, int result, const QString& path);
 
-    std::function<QQuickItem*(unsigned)> m_resolver;
     int m_pending = 0;
 };
 

@@ -1,4 +1,4 @@
-// Export: start-up and main loop of the panel.
+// Exports: start-up and main loop of the panel, and the project package.
 #include "app/ccrashstack.h"
 #include "app/guiapplication.h"
 #include "app/guishell.h"
@@ -12,7 +12,7 @@
 #include "platform/logiclayercaller.h"
 #include "views/qmlwindowmanage.h"
 #include "views/viewmanage.h"
-#include "views/xqmlcomponentmanage.h"
+#include "xcomponents/qquick/xqmlcomponentmanage.h"
 
 #include <QIcon>
 #include <QQuickWindow>
@@ -122,4 +122,12 @@ int View_MainThreadLoop(int argc, char** argv, const _Main_CallBacks* callbacks)
     log->logger()->info("View_MainThreadLoop: finished with {}", result);
     log->logger()->flush();
     return result;
+}
+
+int View_CreateProPkg()
+{
+    QGUI_LAYER_LOG("\n\t创建 {}", "工程包");
+    if (GuiShell* shell = GuiShell::instance())
+        shell->createProPkg();
+    return 0;
 }

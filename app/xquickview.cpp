@@ -1,6 +1,7 @@
 #include "app/xquickview.h"
 
 #include "app/guishell.h"
+#include "config/globalconfig.h"
 #include "platform/logiclayercaller.h"
 
 #include <QKeyEvent>
@@ -14,7 +15,11 @@ XQuickView::XQuickView(QWindow* parent)
 {
 }
 
-XQuickView::~XQuickView() = default;
+XQuickView::~XQuickView()
+{
+    if (GlobalConfig::getInstance()->scaleSource() == this)
+        GlobalConfig::getInstance()->setScaleSource(nullptr);
+}
 
 void XQuickView::setXResizeMode(XResizeMode mode)
 {

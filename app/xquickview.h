@@ -3,6 +3,8 @@
 
 #include <QQuickView>
 
+#include "config/viewscalesource.h"
+
 /**
  * The top-level view of the panel. Besides QQuickView's operations it has
  *  - the resize mode 2 (SizeRootObjectToViewFirst): on every resize the scene's
@@ -13,7 +15,7 @@
  *    events are dropped entirely; synthesised keys (native scan code 0, such as
  *    those of the on-screen keyboard) reach the scene but are not reported.
  */
-class XQuickView : public QQuickView
+class XQuickView : public QQuickView, public ViewScaleSource
 {
     Q_OBJECT
     Q_PROPERTY(double rootItemScale READ rootItemScale WRITE setRootItemScale NOTIFY rootItemScaleChanged)
@@ -32,7 +34,8 @@ public:
     void setXResizeMode(XResizeMode mode);
     XResizeMode xResizeMode() const { return m_resizeMode; }
 
-    double rootItemScale() const;
+    double rootItemScale() const override;
+    QObject* scaleNotifier() override { return this; }
     /** Sets the panel control's scale; emits nothing (onChangeZoom does). */
     void setRootItemScale(double scale);
     int zoomIndex() const { return m_zoomIndex; }

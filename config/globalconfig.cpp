@@ -1,7 +1,6 @@
 #include "config/globalconfig.h"
 
-#include "app/guiapplication.h"
-#include "app/xquickview.h"
+#include "config/viewscalesource.h"
 #include "config/xeventfilter.h"
 #include "platform/globalinfo.h"
 #include "platform/guiqtadaptcore.h"
@@ -54,14 +53,23 @@ void GlobalConfig::setLocale(const QLocale& locale)
 
 double GlobalConfig::scale()
 {
-    XQuickView* view = GuiApplication::instance() ? GuiApplication::instance()->view() : nullptr;
-    if (!view)
+    if (!m_scaleSource)
         return 1.0;
     if (!m_scaleConnected) {
-        connect(view, &XQuickView::rootItemScaleChanged, this, &GlobalConfig::scaleChanged);
+        connect(m_scaleSource->scaleNotifier(), SIGNAL(rootItemScaleChanged(double)), this, SIGNAL(scaleChanged(double)));
         m_scaleConnected = true;
     }
-    return view->rootItemScale();
+    return m_scaleSource->rootItemScale();
+}
+
+void GlobalConfig::setScaleSource(ViewScaleSource* source)
+{
+    if (m_scaleSource == source)
+        return;
+    if (m_scaleSource && m_scaleConnected)
+        disconnect(m_scaleSource->scaleNotifier(), nullptr, this, nullptr);
+    m_scaleSource = source;
+    m_scaleConnected = false;
 }
 
 double GlobalConfig::pixelLock(double scale, double len) const

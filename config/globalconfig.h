@@ -11,6 +11,7 @@
 #include <QPointer>
 
 class QTranslator;
+class ViewScaleSource;
 struct View_GlobalConfig;
 struct View_InterfaceConfigue;
 
@@ -68,8 +69,12 @@ public:
     QFont defaultFont() const { return m_defaultFont; }
     void setDefaultFont(const QFont& font) { m_defaultFont = font; }
 
-    /** The panel's zoom: the view's root item scale, 1.0 while there is no view. */
+    /** The panel's zoom: the view's root item scale, 1.0 while there is no view. The first
+     *  call with a view connects scaleChanged to it. */
     double scale();
+    /** Installs the view whose zoom scale() reads (null: there is no view). */
+    void setScaleSource(ViewScaleSource* source);
+    ViewScaleSource* scaleSource() const { return m_scaleSource; }
     /** Multi-touch gestures are not used by the widgets. */
     bool canMutiTouch() const { return false; }
     /** A pixel-snapping correction for a length \a len drawn at \a scale. */
@@ -102,6 +107,7 @@ private:
     QColor m_selectionColor{0x6E, 0xA2, 0xE2};
     QColor m_highlightColor{0xCC, 0xE0, 0xF8};
     QFont m_defaultFont;
+    ViewScaleSource* m_scaleSource = nullptr; // not owned; the view installs and removes itself
     bool m_scaleConnected = false;
     QTranslator* m_translator = nullptr; // owned, created on the first switch to Chinese
     bool m_translatorInstalled = false;

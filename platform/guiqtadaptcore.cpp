@@ -26,6 +26,18 @@ Qt::PenStyle penStyle(unsigned style)
 }
 } // namespace
 
+QString Core::cutText(const QString& text, int maxChars)
+{
+    if (maxChars < 1)
+        return QString();
+    if (text.size() <= maxChars)
+        return text;
+    int keep = maxChars - 1;
+    if (keep > 0 && text.at(keep - 1).isHighSurrogate())
+        --keep;
+    return text.left(keep) + QChar(0x2026);
+}
+
 QFont Core::toQFont(const Font* font)
 {
     QFont f = QGuiApplication::font();
@@ -34,7 +46,8 @@ QFont Core::toQFont(const Font* font)
             f.setPixelSize(kDefaultPixelSize);
         return f;
     }
-    QString family = fromUtf8(font->family).trimmed();
+    // no family name is longer: a corrupt one would only slow down font matching
+    QString family = cutText(fromUtf8(font->family).trimmed(), kMaxFamily);
     if (!family.isEmpty())
         f.setFamily(family);
     int px = font->pixelSize;

@@ -51,6 +51,13 @@ public:
      *  surrounding blanks removed. */
     static QString fromString(const char* text);
     static std::string toUtf8StdString(const QString& text);
+    /** \a text cut to at most \a maxChars UTF-16 units, ending in "…" when cut, never inside a
+     *  surrogate pair. What a widget shows is cut so that a runaway text never stalls the panel. */
+    static QString cutText(const QString& text, int maxChars);
+    /** Longest text a text widget, button caption or message shows (UTF-16 units). */
+    static constexpr int kMaxShownText = 4096;
+    /** Longest font family name taken from a Font record. */
+    static constexpr int kMaxFamily = 256;
     /** The text area inside \a box once the layout's margins are applied to its aligned edges. */
     static QRectF textLayoutRect(const View_TextLayout* layout, const QRectF& box);
     /** The size \a text takes in \a font (multi-line aware). */

@@ -144,18 +144,6 @@ void LifeCycleManager::hideWindow(QQuickItem* windowContent, QHash<unsigned, QQu
     }
 }
 
-void LifeCycleManager::purge(QQuickItem* item)
-{
-    for (auto* map : {&m_visible, &m_invisible}) {
-        for (auto it = map->begin(); it != map->end();) {
-            if (it->second == item)
-                it = map->erase(it);
-            else
-                ++it;
-        }
-    }
-}
-
 QList<QQuickItem*> LifeCycleManager::allItems() const
 {
     QList<QQuickItem*> items;

@@ -51,8 +51,6 @@ public:
     bool isInvisibleEntry(unsigned id) const { return m_invisible.count(id) != 0; }
     /** Every item of both maps. */
     QList<QQuickItem*> allItems() const;
-    /** Forgets every entry whose item was deleted by someone else (window teardown). */
-    void purge(QQuickItem* item);
 
 private:
     std::unordered_map<unsigned, QQuickItem*> m_visible;

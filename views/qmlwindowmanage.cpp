@@ -1,13 +1,13 @@
 #include "views/qmlwindowmanage.h"
 
-#include "app/guishell.h"
+#include "views/panelhost.h"
 #include "platform/guiqtadaptcore.h"
 #include "platform/logiclayercaller.h"
 #include "platform/nlogger.h"
 #include "platform/xoverlay.h"
 #include "views/lifecyclemanager.h"
 #include "views/presswatcher.h"
-#include "views/xqmlcomponentmanage.h"
+#include "xcomponents/qquick/xqmlcomponentmanage.h"
 #include "xcomponents/qquick/keyboardwindowtitile.h"
 #include "xcomponents/qquick/lighterpopup.h"
 #include "xcomponents/qquick/xlumodialog.h"
@@ -42,10 +42,12 @@ QmlWindowManage::QmlWindowManage(LifeCycleManager* lifeCycle, QObject* parent)
     , m_lifeCycle(lifeCycle)
     , m_pressWatcher(new PressWatcher(this))
 {
+    XWindowLocator::install(this);
 }
 
 QmlWindowManage::~QmlWindowManage()
 {
+    XWindowLocator::uninstall(this);
     for (const auto& d : qAsConst(m_dialogs))
         delete d.data();
     for (const auto& w : qAsConst(m_windows))
@@ -62,16 +64,17 @@ QmlWindowManage::~QmlWindowManage()
 
 QQuickItem* QmlWindowManage::panel() const
 {
-    GuiShell* shell = GuiShell::instance();
-    return shell ? shell->getGuiContent() : nullptr;
+    PanelHost* host = PanelHost::instance();
+    return host ? host->getGuiContent() : nullptr;
 }
 
 QQmlEngine* QmlWindowManage::getEngine() const
 {
     if (QQmlEngine* e = XQmlComponentManage::getInstance()->engine())
         return e;
-    GuiShell* shell = GuiShell::instance();
-    return shell ? qmlEngine(shell) : nullptr;
+    PanelHost* host = PanelHost::instance();
+    QQuickItem* panel = host ? host->getGuiRect() : nullptr;
+    return panel ? qmlEngine(panel) : nullptr;
 }
 
 // ---- desktops
@@ -86,8 +89,8 @@ bool QmlWindowManage::addDeskTop(const Size& size, unsigned n)
     const QSize panelSize(qBound(1, size.width, 16384), qBound(1, size.height, 16384));
 
     // the panel control takes the desktop's size; the view fits it on the primary screen
-    if (GuiShell* shell = GuiShell::instance(); shell && shell->getGuiRect())
-        shell->getGuiRect()->setSize(panelSize);
+    if (PanelHost* h = PanelHost::instance(); h && h->getGuiRect())
+        h->getGuiRect()->setSize(panelSize);
     if (auto* view = qobject_cast<QQuickView*>(host->window())) {
         QRect avail = QGuiApplication::primaryScreen() ? QGuiApplication::primaryScreen()->availableGeometry()
                                                        : QRect(0, 0, panelSize.width(), panelSize.height());

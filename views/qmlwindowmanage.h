@@ -9,6 +9,7 @@
 #include <QString>
 
 #include "platform/xpopup.h"
+#include "xcomponents/qquick/xwindowlocator.h"
 
 #include <qgui/records_window.h>
 
@@ -27,8 +28,9 @@ class LifeCycleManager;
  * and the panel-wide layers: the message box, the busy bar and the dimming
  * layer. Stacking, bottom to top: desktop and its windows; popup windows at
  * their own z; the message box at 2147483645; the dimming layer at 2147483647.
+ * While it exists it is the window locator of the items (XWindowLocator).
  */
-class QmlWindowManage : public QObject
+class QmlWindowManage : public QObject, public XWindowLocator
 {
     Q_OBJECT
 
@@ -60,7 +62,7 @@ public:
     /** The content item of the window or popup window \a windowId (windows first); null if none. */
     QQuickItem* getWindow(unsigned windowId) const;
     /** The window or popup window object itself. */
-    QQuickItem* getWindowObj(unsigned windowId) const;
+    QQuickItem* getWindowObj(unsigned windowId) const override;
     XWindow* findWindow(unsigned windowId) const;
     XLumoDialog* findDialog(unsigned windowId) const;
     /** Detaches a window (deleted later) or closes a popup window (deleted later). */

@@ -1,13 +1,12 @@
 #include "views/viewmanage.h"
 
-#include "app/imagegraber.h"
 #include "platform/gid.h"
 #include "platform/guiqtadaptcore.h"
 #include "views/curvesamplecharttimemodecontroller.h"
 #include "views/lifecyclemanager.h"
 #include "views/qmlwindowmanage.h"
 #include "views/widgetpropertymanage.h"
-#include "views/xqmlcomponentmanage.h"
+#include "xcomponents/qquick/xqmlcomponentmanage.h"
 #include "xcomponents/qquick/xinvalidfeature.h"
 
 #include <QQuickItem>
@@ -36,15 +35,11 @@ ViewManage::ViewManage()
     , m_timeMode(std::make_unique<CurveSampleChartTimeModeController>())
 {
     XQmlComponentManage::getInstance()->setWindowManage(m_windowManage.get());
-    // screenshots of a window find it here
-    QmlWindowManage* wm = m_windowManage.get();
-    ImageGraber::instance()->setWindowResolver([wm](unsigned windowId) { return wm->getWindowObj(windowId); });
 }
 
 ViewManage::~ViewManage()
 {
     // the registry owns its items: delete them now, while the scene and engine still exist
-    ImageGraber::instance()->setWindowResolver(nullptr);
     const QList<QQuickItem*> items = m_lifeCycle->allItems();
     m_idHash.clear();
     qDeleteAll(items);
@@ -81,7 +76,6 @@ void ViewManage::appendItem(unsigned id, QQuickItem* item)
     if (QQuickItem* old = m_lifeCycle->findItemMaybeVisible(id); old && old != item) {
         // an id created again replaces its previous widget, which is deleted
         m_lifeCycle->destroyItem(id);
-        m_propertyManage->remove(id);
     }
     m_lifeCycle->removeItemParent({id, item});
     m_idHash.insert(id, item);
@@ -92,30 +86,39 @@ QQuickItem* ViewManage::getItemById(unsigned id) const
     return m_lifeCycle->findItemMaybeVisible(id);
 }
 
+QQuickItem* ViewManage::creationParent(const void* rec, unsigned windowId) const
+{
+    return rec ? m_windowManage->getWindow(windowId) : nullptr;
+}
+
+void ViewManage::placeWidget(QQuickItem* item, unsigned id, unsigned windowId, const Rect& rect, unsigned header)
+{
+    const QRect box = GuiQtAdapt::Core::toQRect(rect);
+    item->setPosition(box.topLeft());
+    item->setSize(QSizeF(qMax(0, box.width()), qMax(0, box.height())));
+    WidgetPropertyManage::applyHeader(item, header);
+    WidgetPropertyManage::setIds(item, id, windowId);
+    appendItem(id, item);
+}
+
 QQuickItem* ViewManage::newUnsupportFeatureImage(QQuickItem* parent, QPoint pos, QSize size, unsigned id,
-                                                 unsigned windowId)
+                                                 unsigned windowId, unsigned header)
 {
     // made without an object parent: the registry owns it, so there is none to clear later
     auto* item = new XInvalidFeature;
     item->setParentItem(parent);
-    item->setPosition(pos);
-    item->setSize(QSizeF(qMax(0, size.width()), qMax(0, size.height())));
-    GId::setId(item, id);
-    GId::setWId(item, windowId);
-    appendItem(id, item);
+    placeWidget(item, id, windowId, Rect{pos.x(), pos.y(), size.width(), size.height()}, header);
     return item;
 }
 
-int ViewManage::createPlaceholder(unsigned header, const Rect& rect, unsigned id, unsigned windowId,
-                                  const QString& name)
+int ViewManage::createPlaceholder(unsigned header, const Rect& rect, unsigned id, unsigned windowId, const char* name)
 {
     QQuickItem* parent = m_windowManage->getWindow(windowId);
     if (!parent)
         return -1;
     const QRect r = GuiQtAdapt::Core::toQRect(rect);
-    QQuickItem* item = newUnsupportFeatureImage(parent, r.topLeft(), r.size(), id, windowId);
-    if (auto* placeholder = qobject_cast<XInvalidFeature*>(item))
-        placeholder->setFeatureName(name + QStringLiteral(" (") + XInvalidFeature::tr("not available") + QLatin1Char(')'));
-    WidgetPropertyManage::applyHeader(item, header);
+    auto* item = static_cast<XInvalidFeature*>(newUnsupportFeatureImage(parent, r.topLeft(), r.size(), id, windowId, header));
+    item->setFeatureName(QString::fromUtf8(name) + QStringLiteral(" (") + XInvalidFeature::tr("not available")
+                         + QLatin1Char(')'));
     return 0;
 }

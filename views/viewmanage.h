@@ -25,9 +25,12 @@ class CurveSampleChartTimeModeController;
 
 /**
  * The single object behind the exported View_* functions. Each export logs one
- * line and calls the method of the same name here. This class holds what all
- * widgets share (the registry, the window manager, the component cache); the
- * code of each widget family lives in its own file (viewmanage_<family>.cpp).
+ * line and calls the method of the same name here (View_ChangeTextContent and
+ * View_ChangeKBoardTextContent are View_ChangeText and View_ChangeKBText). This
+ * class holds what all widgets share (the registry, the window manager, the
+ * component cache) and dispatches; each widget family has its exports in
+ * app/layer_view_<family>.cpp, its methods in views/viewmanage_<family>.cpp and
+ * what it keeps between calls in a class of its own (see views/README.md).
  *
  * Results: 0 when done, -1 when not done; an unknown id gives the result fixed
  * for each call (see the family files). Failed internal conditions are reported
@@ -57,12 +60,37 @@ public:
     void appendItem(unsigned id, QQuickItem* item);
     /** The registered item of \a id, placed or cached; null when unknown. */
     QQuickItem* getItemById(unsigned id) const;
-    /** Every item registered or shown through the registry, by id. */
-    QHash<unsigned, QQuickItem*>& idHash() { return m_idHash; }
-    /** Places the placeholder shown where a widget kind is not available, and registers it. */
-    QQuickItem* newUnsupportFeatureImage(QQuickItem* parent, QPoint pos, QSize size, unsigned id, unsigned windowId);
+    /** Every item registered or shown again through the registry and not taken out with its
+     *  window or deleted since, by id. */
+    const QHash<unsigned, QQuickItem*>& idHash() const { return m_idHash; }
+    /** Places the placeholder shown where a widget kind is not available, and registers it;
+     *  \a header is the record's opacity word. */
+    QQuickItem* newUnsupportFeatureImage(QQuickItem* parent, QPoint pos, QSize size, unsigned id, unsigned windowId,
+                                         unsigned header = 0);
 
-    // generic widget operations
+    /**
+     * The creation path every View_Create* follows:
+     *
+     *     QQuickItem* window = creationParent(rec, windowId);
+     *     if (!window)
+     *         return -1;                        // null record or unknown window: nothing is made
+     *     auto* item = new XSomething(window);  // the widget's own properties
+     *     ...
+     *     placeWidget(item, rec, windowId);     // rectangle, header, ids, registration
+     *     return 0;
+     */
+    QQuickItem* creationParent(const void* rec, unsigned windowId) const;
+    /** Last step of every creator: position and size from \a rect (negative sizes become 0),
+     *  opacity from the header word, the widget and window ids (set once), registration. */
+    void placeWidget(QQuickItem* item, unsigned id, unsigned windowId, const Rect& rect, unsigned header);
+    /** The same, from any record with the common fields header, rect and id. */
+    template<class Rec>
+    void placeWidget(QQuickItem* item, const Rec* rec, unsigned windowId)
+    {
+        placeWidget(item, rec->id, windowId, rec->rect, rec->header);
+    }
+
+    // ---- generic: generic widget operations (app/layer_view_generic.cpp, views/viewmanage_generic.cpp)
     int View_ChangeOpacity(unsigned int id, unsigned char percent);
     int View_ClrBusy(unsigned int id);
     int View_ClrDisableFlag(unsigned int id, unsigned int flags);
@@ -79,7 +107,7 @@ public:
     int View_SetWidgetParent(unsigned int id, unsigned int parentId);
     int View_ShowWidget(unsigned int id, unsigned int fromCache, ItemSlashType type);
 
-    // desktops, windows, popups, message box, brightness, busy bar
+    // ---- window: desktops, windows, popups, message box, brightness, busy bar (app/layer_view_window.cpp, views/viewmanage_window.cpp)
     int View_ChangeWindowTitle(unsigned int windowId, const char* title);
     int View_CloseDesktop(unsigned int desktopNo);
     int View_CloseWindow(unsigned int windowId);
@@ -99,15 +127,15 @@ public:
     int View_SwitchWindow(View_Window* window);
     int View_WindowShowAndMove(unsigned int windowId, int x, int y);
 
-    // configuration
+    // ---- config: configuration (app/layer_view_config.cpp, views/viewmanage_config.cpp)
     int View_SetGlobalConfigue(View_GlobalConfig* config);
     int View_SetInterfaceConfigue(View_InterfaceConfigue* config);
 
-    // button
+    // ---- button: button (app/layer_view_button.cpp, views/viewmanage_button.cpp)
     int View_ChangeButtonParam(unsigned int id, const View_ImageText* rec);
     int View_CreateButton(const View_ImageText* rec, unsigned int windowId);
 
-    // texts
+    // ---- text: texts (app/layer_view_text.cpp, views/viewmanage_text.cpp)
     int View_CarouselText(unsigned int id, int dx, int dy);
     int View_ChangeFontColor(unsigned int id, const Brush* brush);
     int View_ChangeText(unsigned int id, const char* text, const Font* font);
@@ -116,7 +144,7 @@ public:
     int View_CreateText(const View_Text* rec, unsigned int windowId);
     int View_IsTextOutOfRange(unsigned int id, int direction);
 
-    // graphic shapes
+    // ---- shape: graphic shapes (app/layer_view_shape.cpp, views/viewmanage_shape.cpp)
     int View_ChangePen(unsigned int id, const Pen* pen);
     int View_CreateGraphArc(const View_GraphArc* rec, unsigned int windowId);
     int View_CreateGraphBezierCurve(const View_GraphBezierCurve* rec, unsigned int windowId);
@@ -131,39 +159,39 @@ public:
     int View_RotateWidget(unsigned int id, int angle, int origin);
     int View_ZoomWidget(unsigned int id, int width, int height, int origin);
 
-    // image
+    // ---- image: image (app/layer_view_image.cpp, views/viewmanage_image.cpp)
     int View_CreateImage(const View_Image* rec, unsigned int windowId);
 
-    // bar
+    // ---- bar: bar (app/layer_view_bar.cpp, views/viewmanage_bar.cpp)
     int View_BarUpdateOrigin(unsigned int id, unsigned char percent);
     int View_BarUpdateScaleLabels(unsigned int id, const std::vector<std::string>& labels);
     int View_BarUpdateTarget(unsigned int id, unsigned char low, unsigned char high);
     int View_BarUpdateVar(unsigned int id, unsigned char bar, const char* value, const Brush& brush);
     int View_CreateBar(const View_Bar* rec, unsigned int windowId);
 
-    // meter
+    // ---- meter: meter (app/layer_view_meter.cpp, views/viewmanage_meter.cpp)
     int View_CreateGroupMeter();
     int View_CreateMeter(const View_Meter* rec, unsigned int windowId);
     int View_MeterUpdateAlarmRange(unsigned int id, int low, int high);
     int View_MeterUpdateScaleLabels(unsigned int id, const std::vector<std::string>& labels);
     int View_MeterUpdateVal(unsigned int id, int value);
 
-    // slider
+    // ---- slider: slider (app/layer_view_slider.cpp, views/viewmanage_slider.cpp)
     int View_ChangeSliderLabels(unsigned int id, const std::vector<std::string>& labels);
     int View_ChangeSliderPos(unsigned int id, double value);
     int View_CreateSlider(const View_Slider* rec, unsigned int windowId);
 
-    // pipeline
+    // ---- pipeline: pipeline (app/layer_view_pipeline.cpp, views/viewmanage_pipeline.cpp)
     int View_CreatePipeline(const View_Pipeline* rec, unsigned int windowId);
     int View_PipelineUpdateDirect(unsigned int id, bool reverse);
     int View_PipelineUpdateFlowShapeColor(unsigned int id, unsigned int color);
     int View_PipelineUpdateFlowrate(unsigned int id, unsigned int rate);
 
-    // QR code
+    // ---- qrcode: QR code (app/layer_view_qrcode.cpp, views/viewmanage_qrcode.cpp)
     int View_CreateQRCode(const View_QRCode* rec, unsigned int windowId);
     int View_UpdateQRCodeContent(unsigned int id, const char* text);
 
-    // pie chart and groups
+    // ---- group: pie chart and groups (app/layer_view_group.cpp, views/viewmanage_group.cpp)
     int View_CreateGroup(const View_Group* rec, unsigned int windowId);
     int View_CreateGroupBar();
     int View_CreateGroupIOList(const View_GroupIOList* rec, unsigned int windowId);
@@ -171,7 +199,7 @@ public:
     int View_PieChartUpdateData(unsigned int id, const std::vector<View_ChartChnData>& data);
     int View_PieChartUpdateLegendLabels(unsigned int id, const std::vector<std::string>& labels);
 
-    // text and numeric input
+    // ---- input: text and numeric input (app/layer_view_input.cpp, views/viewmanage_input.cpp)
     int View_ChangeInputParam(unsigned int id, const View_Input* rec);
     int View_CreateInputText(const View_Input* rec, unsigned int windowId);
     int View_CreateNumInputText(const View_Input* rec, unsigned int windowId);
@@ -179,7 +207,7 @@ public:
     int View_SetTextCursorPosition(unsigned int id, unsigned int position);
     int View_SetTextSelectCursor(unsigned int id, unsigned int start, unsigned int end);
 
-    // virtual keyboard and Pinyin candidate bar
+    // ---- vkb: virtual keyboard and Pinyin candidate bar (app/layer_view_vkb.cpp, views/viewmanage_vkb.cpp)
     int View_ChangeKBText(unsigned int windowId, const char* text, const Font* font);
     int View_CloseVirtualKeyboard();
     int View_HideKeyBoardWidget();
@@ -189,7 +217,7 @@ public:
     int View_SetKBoardTextSelectCursor(unsigned int windowId, unsigned int start, unsigned int end);
     int View_ShowKeyBoardWidget(View_keyBoardData* data);
 
-    // list controls
+    // ---- list: list controls (app/layer_view_list.cpp, views/viewmanage_list.cpp)
     int View_AddListCtrlContent(unsigned int id, const std::vector<std::string>& row, int position);
     int View_ChangeListCtrlBrowseBoxParams(unsigned int id, unsigned int* values);
     int View_ChangeListCtrlContent(unsigned int id, const std::vector<std::vector<View_ListColData>>& rows);
@@ -213,10 +241,10 @@ public:
     int View_CreateListSample(const View_listSample* rec, unsigned int windowId);
     int View_GetListCtrlContent(unsigned int id, int row, int column, std::vector<std::string>& out);
 
-    // alarm bar
+    // ---- alarmbar: alarm bar (app/layer_view_alarmbar.cpp, views/viewmanage_alarmbar.cpp)
     int View_CreateListAlarmBar(const View_listAlarmBar* rec, unsigned int windowId);
 
-    // menus
+    // ---- menu: menus (app/layer_view_menu.cpp, views/viewmanage_menu.cpp)
     int View_ChangeMenuContent(unsigned int id, const std::list<View_Text>& entries);
     int View_ChangeMenuSelect(unsigned int id, int index, const View_Image* image, const View_Text* text);
     int View_ChangeMenuTreeContent(unsigned int id, const View_TreeNode* root);
@@ -230,11 +258,11 @@ public:
     int View_CreateMenuVar(const View_MenuVar* rec, unsigned int windowId);
     int View_MenuPopupDropdownBox(unsigned int id);
 
-    // date and time
+    // ---- datetime: date and time (app/layer_view_datetime.cpp, views/viewmanage_datetime.cpp)
     int View_CreateInputClock(const View_InputClock* rec, unsigned int windowId);
     int View_PopupDateTimeDialog(unsigned int id, const char* text);
 
-    // sample curve chart
+    // ---- curvesample: sample curve chart (app/layer_view_curvesample.cpp, views/viewmanage_curvesample.cpp)
     int View_CreateCurveSample(const View_CurveSample* rec, unsigned int windowId);
     int View_CurveHideChannel(unsigned int id, unsigned int channel, bool hide);
     int View_CurveSampleChangeDispNum(unsigned int id, unsigned int count);
@@ -247,12 +275,12 @@ public:
     int View_CurveSampleUpdateDataLabel(unsigned int id, const std::vector<std::string>& labels);
     int View_CurveSampleUpdateDataLimit(unsigned int id, int dataType, unsigned char decimals, double* limits);
 
-    // curve history search
+    // ---- curvesearch: curve history search (app/layer_view_curvesearch.cpp, views/viewmanage_curvesearch.cpp)
     int View_CurveSampleResumeRealMode(unsigned int id);
     int View_CurveSampleSetSearchMode(unsigned int id, bool on);
     int View_RestoreCurveSampleSearchState(unsigned int id);
 
-    // XY curve
+    // ---- curvexy: XY curve (app/layer_view_curvexy.cpp, views/viewmanage_curvexy.cpp)
     int View_CreateCurveXy(const View_CurveXy* rec, unsigned int windowId);
     int View_CurveXyClearData(unsigned int id, const std::vector<unsigned int>& channels);
     int View_CurveXyShowCursor();
@@ -260,21 +288,21 @@ public:
     int View_CurveXyUpdateXLabel(unsigned int id, const std::vector<std::string>& labels);
     int View_CurveXyUpdateYLabel(unsigned int id, const std::vector<std::string>& labels);
 
-    // curve cursor
+    // ---- curvecursor: curve cursor (app/layer_view_curvecursor.cpp, views/viewmanage_curvecursor.cpp)
     int View_CurveEnableCursor(unsigned int id, bool enable);
     int View_CurveSampleShowCursor(unsigned int id, const std::string& title, const std::vector<std::pair<unsigned short, std::string> >& rows);
     int View_CurveUpdateCursorContent(unsigned int id, const char* title, const std::vector<std::vector<View_ListColData>>& rows);
     int View_CurveUpdateCursorParams(unsigned int id, const std::vector<View_Text>& heads, const std::vector<Font*>& fonts);
     int View_CurveUpdateCursorTitle(unsigned int id, const View_Text& title);
 
-    // packages, external devices, file dialog
+    // ---- package: packages, external devices, file dialog (app/layer_view_package.cpp, views/viewmanage_package.cpp)
     int View_ExtDevEject(int storeNo);
     int View_PopupExtDevPlugin(unsigned int id, int storeNo);
     int View_PopupFileDialog(unsigned int id, const char* path);
     int View_PopupPKGDownloadCfm(unsigned int id, int storeNo, const char* path);
     int View_PopupPKGFileExplorer(unsigned int id, int storeNo);
 
-    // PDF viewer and writer, export
+    // ---- pdf: PDF viewer and writer, export (app/layer_view_pdf.cpp, views/viewmanage_pdf.cpp)
     int View_ClosePdfWriter(unsigned int id);
     int View_CreatePdf(const View_Pdf* rec, unsigned int windowId);
     int View_CreatePdfWriter(unsigned int id, const char* path);
@@ -285,7 +313,7 @@ public:
     int View_PdfZoom(unsigned int id, unsigned int percent);
     int View_Write2Pdf(unsigned int id, const std::vector<std::string>& heads, const std::vector<std::vector<std::string>>& rows, bool newPage);
 
-    // cameras, media, remote desktop, web (placeholders where not available), audio
+    // ---- placeholder: cameras, media, remote desktop, web (placeholders where not available), audio (app/layer_view_placeholder.cpp, views/viewmanage_placeholder.cpp)
     int View_CreateCameraIP(const View_CameraIP* rec, unsigned int windowId);
     int View_CreateCameraUSB(const View_CameraUSB* rec, unsigned int windowId);
     int View_CreateMediaPlayer(const View_MediaPlayer* rec, unsigned int windowId);
@@ -299,8 +327,13 @@ public:
 
 private:
     ViewManage();
-    /** Shared part of the placeholder creators: the record's header, rect and id. */
-    int createPlaceholder(unsigned header, const Rect& rect, unsigned id, unsigned windowId, const QString& name);
+    /** Creator of the kinds this panel shows as a placeholder naming them. */
+    template<class Rec>
+    int createPlaceholder(const Rec* rec, unsigned windowId, const char* name)
+    {
+        return rec ? createPlaceholder(rec->header, rec->rect, rec->id, windowId, name) : -1;
+    }
+    int createPlaceholder(unsigned header, const Rect& rect, unsigned id, unsigned windowId, const char* name);
 
     // members in order of construction
     std::unique_ptr<LifeCycleManager> m_lifeCycle;

@@ -3,7 +3,7 @@
 
 #include "platform/guiqtadaptcore.h"
 #include "views/lifecyclemanager.h"
-#include "views/picturecachemanage.h"
+#include "xcomponents/qquick/picturecachemanage.h"
 #include "views/qmlwindowmanage.h"
 #include "xcomponents/qquick/xbutton.h"
 #include "xcomponents/qquick/xwindow.h"
@@ -49,30 +49,17 @@ void applyButtonStyle(XButton* button, const View_ImageText* rec)
 
 int ViewManage::View_CreateButton(const View_ImageText* rec, unsigned int windowId)
 {
-    QQuickItem* window = rec ? m_windowManage->getWindow(windowId) : nullptr;
+    QQuickItem* window = creationParent(rec, windowId);
     if (!window)
         return -1;
     auto* button = new XButton(window);
-    button->setItemOpacity(1.0);
-    button->setId(rec->id);
-    const QRect box = Core::toQRect(rec->rect);
-    button->setSize(box.size());
-    const QString path = Core::fromString(rec->image);
-    if (!path.isEmpty()) {
-        const QUrl url = PictureCacheManage::getInstance()->getUrl(path);
-        if (url.isValid())
-            button->setImage(url);
-    }
-    button->setPosition(box.topLeft());
-    button->setItemOpacity(Core::toOpacity(rec->header));
-    button->setWindowId(windowId);
     applyButtonStyle(button, rec);
     if (Core::dragFlag(rec->header)) {
         // dragging the button moves its window; inside a popup window it stays a plain button
         if (auto* holder = qobject_cast<XWindow*>(m_windowManage->getWindowObj(windowId)))
             button->setDragTarget(holder);
     }
-    appendItem(rec->id, button);
+    placeWidget(button, rec, windowId);
     return 0;
 }
 

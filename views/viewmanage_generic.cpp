@@ -20,19 +20,7 @@
 
 namespace {
 
-bool hasMethod(const QObject* obj, const char* signature)
-{
-    return obj && obj->metaObject()->indexOfMethod(signature) >= 0;
-}
-
-/** Invokes an invokable by name when the item offers it; true when it did. */
-bool invokeIf(QObject* obj, const char* name, const char* signature, QGenericArgument a = QGenericArgument(),
-              QGenericArgument b = QGenericArgument())
-{
-    if (!hasMethod(obj, signature))
-        return false;
-    return QMetaObject::invokeMethod(obj, name, Qt::DirectConnection, a, b);
-}
+using Props = WidgetPropertyManage;
 
 bool hasSlashAnimation(QQuickItem* item)
 {
@@ -56,8 +44,8 @@ bool takesImageHide(QQuickItem* item)
 /** Kinds that carry a slash item (View_HideWidget type 2). */
 bool takesSlashHide(QQuickItem* item)
 {
-    static const char* const kinds[] = {"XButton",   "XBaseText",     "XCauseText",   "XMultiLineText",
-                                        "XTextEdit", "XQuickTextEdit", "XLineEdit",    "XDateTimeEdit"};
+    static const char* const kinds[] = {"XButton",   "XBaseText",      "XMultiLineText",
+                                        "XTextEdit", "XQuickTextEdit", "XLineEdit", "XDateTimeEdit"};
     for (const char* k : kinds) {
         if (item->inherits(k))
             return true;
@@ -72,7 +60,6 @@ int ViewManage::View_DeleteWidgets(const std::list<unsigned int>& ids)
     for (unsigned id : ids) {
         if (m_lifeCycle->destroyItem(id)) {
             m_idHash.remove(id);
-            m_propertyManage->remove(id);
         }
     }
     return 0;
@@ -85,8 +72,8 @@ int ViewManage::View_ShowWidget(unsigned int id, unsigned int fromCache, ItemSla
         if (!VM_CHECK(nullptr != pItem))
             return -1;
         if (hasSlashAnimation(pItem)) {
-            invokeIf(pItem, "setImageVisible", "setImageVisible(bool)", Q_ARG(bool, true));
-            invokeIf(pItem, "showSlashItem", "showSlashItem()");
+            Props::invokeIf(pItem, "setImageVisible", "setImageVisible(bool)", Q_ARG(bool, true));
+            Props::invokeIf(pItem, "showSlashItem", "showSlashItem()");
         }
         m_idHash.insert(id, pItem);
         pItem->setVisible(true);
@@ -98,15 +85,15 @@ int ViewManage::View_ShowWidget(unsigned int id, unsigned int fromCache, ItemSla
         return 0;
     switch (type) {
     case ITEM_SLASH_IMAGE:
-        invokeIf(item, "setImageVisible", "setImageVisible(bool)", Q_ARG(bool, true));
+        Props::invokeIf(item, "setImageVisible", "setImageVisible(bool)", Q_ARG(bool, true));
         break;
     case ITEM_SLASH_SLASH:
-        invokeIf(item, "showSlashItem", "showSlashItem()");
+        Props::invokeIf(item, "showSlashItem", "showSlashItem()");
         break;
     default:
         if (hasSlashAnimation(item)) {
-            invokeIf(item, "setImageVisible", "setImageVisible(bool)", Q_ARG(bool, true));
-            invokeIf(item, "showSlashItem", "showSlashItem()");
+            Props::invokeIf(item, "setImageVisible", "setImageVisible(bool)", Q_ARG(bool, true));
+            Props::invokeIf(item, "showSlashItem", "showSlashItem()");
         }
         item->setVisible(true);
         break;
@@ -122,19 +109,19 @@ int ViewManage::View_HideWidget(unsigned int id, ItemSlashType type)
     switch (type) {
     case ITEM_SLASH_IMAGE:
         if (takesImageHide(item))
-            invokeIf(item, "setImageVisible", "setImageVisible(bool)", Q_ARG(bool, false));
+            Props::invokeIf(item, "setImageVisible", "setImageVisible(bool)", Q_ARG(bool, false));
         break;
     case ITEM_SLASH_SLASH:
         if (!takesSlashHide(item)) {
             VM_CHECK(0);
             return -1;
         }
-        invokeIf(item, "hideSlashItem", "hideSlashItem()");
+        Props::invokeIf(item, "hideSlashItem", "hideSlashItem()");
         break;
     default:
         if (hasSlashAnimation(item)) {
-            invokeIf(item, "setImageVisible", "setImageVisible(bool)", Q_ARG(bool, false));
-            invokeIf(item, "hideSlashItem", "hideSlashItem()");
+            Props::invokeIf(item, "setImageVisible", "setImageVisible(bool)", Q_ARG(bool, false));
+            Props::invokeIf(item, "hideSlashItem", "hideSlashItem()");
         }
         item->setVisible(false);
         break;
@@ -154,7 +141,7 @@ int ViewManage::View_MoveWidget(unsigned int id, int x, int y)
     }
     if (item->inherits("QQuickPaintedItem") || item->inherits("XBaseText") || item->inherits("XShapeImage")
         || item->inherits("XCauseText")) {
-        if (!invokeIf(item, "moveTo", "moveTo(int,int)", Q_ARG(int, x), Q_ARG(int, y)))
+        if (!Props::invokeIf(item, "moveTo", "moveTo(int,int)", Q_ARG(int, x), Q_ARG(int, y)))
             item->setPosition(QPointF(x, y));
         return 0;
     }
@@ -167,7 +154,7 @@ int ViewManage::View_ChangeOpacity(unsigned int id, unsigned char percent)
     if (!item)
         return 0;
     const qreal opacity = qMin<int>(percent, 100) / 100.0;
-    if (!invokeIf(item, "setItemOpacity", "setItemOpacity(qreal)", Q_ARG(qreal, opacity)))
+    if (!Props::invokeIf(item, "setItemOpacity", "setItemOpacity(qreal)", Q_ARG(qreal, opacity)))
         item->setOpacity(opacity);
     return 0;
 }
@@ -175,9 +162,9 @@ int ViewManage::View_ChangeOpacity(unsigned int id, unsigned char percent)
 static int applyDisableFlags(QQuickItem* item, unsigned flags, bool on)
 {
     if (flags & 2)
-        invokeIf(item, "showDisenableIcon", "showDisenableIcon(bool)", Q_ARG(bool, on));
+        Props::invokeIf(item, "showDisenableIcon", "showDisenableIcon(bool)", Q_ARG(bool, on));
     if (flags & 4)
-        invokeIf(item, "setGrayFlag", "setGrayFlag(bool)", Q_ARG(bool, on));
+        Props::invokeIf(item, "setGrayFlag", "setGrayFlag(bool)", Q_ARG(bool, on));
     return 0;
 }
 
@@ -204,21 +191,21 @@ int ViewManage::View_ClrDisableFlag(unsigned int id, unsigned int flags)
 int ViewManage::View_SetBusy(unsigned int id)
 {
     if (QQuickItem* item = m_lifeCycle->findItemMaybeVisible(id))
-        invokeIf(item, "showBusyIcon", "showBusyIcon(bool)", Q_ARG(bool, true));
+        Props::invokeIf(item, "showBusyIcon", "showBusyIcon(bool)", Q_ARG(bool, true));
     return 0;
 }
 
 int ViewManage::View_ClrBusy(unsigned int id)
 {
     if (QQuickItem* item = m_lifeCycle->findItemMaybeVisible(id))
-        invokeIf(item, "showBusyIcon", "showBusyIcon(bool)", Q_ARG(bool, false));
+        Props::invokeIf(item, "showBusyIcon", "showBusyIcon(bool)", Q_ARG(bool, false));
     return 0;
 }
 
 int ViewManage::View_SetInputMode(unsigned int id, bool on)
 {
     if (QQuickItem* item = m_lifeCycle->findItemMaybeVisible(id))
-        invokeIf(item, "setInputMode", "setInputMode(bool)", Q_ARG(bool, on));
+        Props::invokeIf(item, "setInputMode", "setInputMode(bool)", Q_ARG(bool, on));
     return 0;
 }
 
@@ -230,14 +217,14 @@ int ViewManage::View_ClrInputMode(unsigned int id)
 int ViewManage::View_SetInputFlag(unsigned int id)
 {
     if (QQuickItem* item = m_lifeCycle->findItemMaybeVisible(id))
-        invokeIf(item, "setInputFlag", "setInputFlag(bool)", Q_ARG(bool, true));
+        Props::invokeIf(item, "setInputFlag", "setInputFlag(bool)", Q_ARG(bool, true));
     return 0;
 }
 
 int ViewManage::View_ClrInputFlag(unsigned int id)
 {
     if (QQuickItem* item = m_lifeCycle->findItemMaybeVisible(id))
-        invokeIf(item, "setInputFlag", "setInputFlag(bool)", Q_ARG(bool, false));
+        Props::invokeIf(item, "setInputFlag", "setInputFlag(bool)", Q_ARG(bool, false));
     return 0;
 }
 
@@ -247,7 +234,7 @@ int ViewManage::View_GetWgtRect(unsigned int id, Rect& rect)
     if (!item)
         return 0;
     QRect r(int(item->x()), int(item->y()), int(item->width()), int(item->height()));
-    if (hasMethod(item, "getWgtRect()")) {
+    if (Props::hasMethod(item, "getWgtRect()")) {
         QVariant v;
         const QMetaMethod m = item->metaObject()->method(item->metaObject()->indexOfMethod("getWgtRect()"));
         if (m.returnType() == QMetaType::QRect)
@@ -281,11 +268,10 @@ int ViewManage::View_SetWidgetParent(unsigned int id, unsigned int parentId)
         return 0;
     if (auto* c = qobject_cast<XBaseControl*>(item))
         c->setWindowId(windowId);
-    else if (hasMethod(item, "setWindowId(uint)"))
+    else if (Props::hasMethod(item, "setWindowId(uint)"))
         QMetaObject::invokeMethod(item, "setWindowId", Q_ARG(uint, windowId));
     GId::setWId(item, windowId);
     item->setVisible(true);
-    m_idHash.insert(id, item);
     m_lifeCycle->saveItem({id, item});
     return 0;
 }

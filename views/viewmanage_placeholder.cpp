@@ -7,47 +7,29 @@
 
 #include <qgui/events.h>
 
-#define VM_PLACEHOLDER(rec, windowId, name)                                                        \
-    ((rec) ? createPlaceholder((rec)->header, (rec)->rect, (rec)->id, (windowId), QStringLiteral(name)) : -1)
-
 int ViewManage::View_CreateCameraIP(const View_CameraIP* rec, unsigned int windowId)
 {
-    return VM_PLACEHOLDER(rec, windowId, "Camera");
+    return createPlaceholder(rec, windowId, "Camera");
 }
 
 int ViewManage::View_CreateCameraUSB(const View_CameraUSB* rec, unsigned int windowId)
 {
-    return VM_PLACEHOLDER(rec, windowId, "USB camera");
+    return createPlaceholder(rec, windowId, "USB camera");
 }
 
 int ViewManage::View_CreateMediaPlayer(const View_MediaPlayer* rec, unsigned int windowId)
 {
-    return VM_PLACEHOLDER(rec, windowId, "Media player");
+    return createPlaceholder(rec, windowId, "Media player");
 }
 
 int ViewManage::View_CreateVncClient(const View_VncClient* rec, unsigned int windowId)
 {
-    return VM_PLACEHOLDER(rec, windowId, "Remote desktop");
+    return createPlaceholder(rec, windowId, "Remote desktop");
 }
 
 int ViewManage::View_CreateWebBrowser(const View_WebBrowser* rec, unsigned int windowId)
 {
-    return VM_PLACEHOLDER(rec, windowId, "Web browser");
-}
-
-int ViewManage::View_CreatePieChart(const View_PieChart* rec, unsigned int windowId)
-{
-    return VM_PLACEHOLDER(rec, windowId, "Pie chart");
-}
-
-int ViewManage::View_PieChartUpdateData(unsigned int, const std::vector<View_ChartChnData>&)
-{
-    return 0;
-}
-
-int ViewManage::View_PieChartUpdateLegendLabels(unsigned int, const std::vector<std::string>&)
-{
-    return 0;
+    return createPlaceholder(rec, windowId, "Web browser");
 }
 
 int ViewManage::View_PlayAudio(unsigned int, const char*, unsigned short)

@@ -1,7 +1,6 @@
 // QR codes: creation and content.
 #include "views/viewmanage.h"
 
-#include "platform/gid.h"
 #include "platform/guiqtadaptcore.h"
 #include "views/lifecyclemanager.h"
 #include "views/qmlwindowmanage.h"
@@ -14,7 +13,7 @@ using GuiQtAdapt::Core;
 
 int ViewManage::View_CreateQRCode(const View_QRCode* rec, unsigned int windowId)
 {
-    QQuickItem* window = rec ? m_windowManage->getWindow(windowId) : nullptr;
+    QQuickItem* window = creationParent(rec, windowId);
     if (!window)
         return -1;
     auto* code = new XQRCode(window);
@@ -26,18 +25,10 @@ int ViewManage::View_CreateQRCode(const View_QRCode* rec, unsigned int windowId)
         if (!XQRCode::imageProviderInit())
             XQRCode::initImageProvider(engine);
     }
-    const QRect box = Core::toQRect(rec->rect);
-    code->setPosition(box.topLeft());
-    code->setSize(box.size());
-    code->setOpacity(Core::toOpacity(rec->header));
     code->setFrontColor(Core::toQColor(rec->frontColor));
     code->setBackColor(Core::toQColor(rec->backColor));
     code->setEcc(int(rec->ecc & 3));
-    code->setId(rec->id);
-    code->setWindowId(windowId);
-    GId::setId(code, rec->id);
-    GId::setWId(code, windowId);
-    appendItem(rec->id, code);
+    placeWidget(code, rec, windowId);
     return 0;
 }
 

@@ -19,12 +19,7 @@ using GuiQtAdapt::Core;
 
 namespace {
 
-bool invokeIf(QObject* obj, const char* name, const char* signature, QGenericArgument a)
-{
-    if (!obj || obj->metaObject()->indexOfMethod(signature) < 0)
-        return false;
-    return QMetaObject::invokeMethod(obj, name, Qt::DirectConnection, a);
-}
+using Props = WidgetPropertyManage;
 
 /** Sets \a text on any widget that offers setText(QString). */
 void sendText(QQuickItem* item, const QString& text)
@@ -32,7 +27,7 @@ void sendText(QQuickItem* item, const QString& text)
     if (auto* t = qobject_cast<XCauseText*>(item))
         t->setText(text); // the common case, without the look-up by name
     else
-        invokeIf(item, "setText", "setText(QString)", Q_ARG(QString, text));
+        Props::invokeIf(item, "setText", "setText(QString)", Q_ARG(QString, text));
 }
 
 /** The label that takes font, spacing, alignment and margins, if the item has one. */
@@ -56,14 +51,10 @@ void applyLayout(XskTextLabel* label, const View_TextLayout* layout)
 
 int ViewManage::View_CreateText(const View_Text* rec, unsigned int windowId)
 {
-    QQuickItem* window = rec ? m_windowManage->getWindow(windowId) : nullptr;
+    QQuickItem* window = creationParent(rec, windowId);
     if (!window)
         return -1;
     auto* text = new XCauseText(window);
-    text->setPosition(QPointF(rec->rect.x, rec->rect.y));
-    text->setItemOpacity(Core::toOpacity(rec->header));
-    text->setId(rec->id);
-    text->setWindowId(windowId);
     text->setText(Core::fromUtf8(rec->text));
     text->setTextFont(Core::toQFont(rec->font));
     if (rec->font) {
@@ -71,9 +62,8 @@ int ViewManage::View_CreateText(const View_Text* rec, unsigned int windowId)
         text->setFontAlignment(Core::toQAlignment(rec->font));
         text->setFontColor(Core::toQColor(rec->font->color));
     }
-    text->setWgtRect(Core::toQRect(rec->rect));
     applyLayout(text->mainLabel(), rec->layout);
-    appendItem(rec->id, text);
+    placeWidget(text, rec, windowId);
     return 0;
 }
 
@@ -96,7 +86,7 @@ int ViewManage::View_ChangeTextParam(unsigned int id, const View_Text* rec)
         control->setFont(font);
     }
     // the pen colour is the text colour
-    invokeIf(item, "setItemPen", "setItemPen(QPen)", Q_ARG(QPen, QPen(Core::toQColor(rec->font->color))));
+    Props::invokeIf(item, "setItemPen", "setItemPen(QPen)", Q_ARG(QPen, QPen(Core::toQColor(rec->font->color))));
     return 0;
 }
 
@@ -110,7 +100,7 @@ int ViewManage::View_ChangeTitle(unsigned int id, const View_Text* rec)
     if (rec->font) {
         if (XskTextLabel* label = labelOf(item))
             label->setFont(Core::toQFont(rec->font));
-        invokeIf(item, "setFontColor", "setFontColor(QColor)", Q_ARG(QColor, Core::toQColor(rec->font->color)));
+        Props::invokeIf(item, "setFontColor", "setFontColor(QColor)", Q_ARG(QColor, Core::toQColor(rec->font->color)));
     }
     return 0;
 }
@@ -129,7 +119,7 @@ int ViewManage::View_ChangeFontColor(unsigned int id, const Brush* brush)
     if (!item)
         return 0;
     const QBrush solid(Core::toFontColor(brush));
-    invokeIf(item, "setItemBrush", "setItemBrush(QBrush)", Q_ARG(QBrush, solid));
+    Props::invokeIf(item, "setItemBrush", "setItemBrush(QBrush)", Q_ARG(QBrush, solid));
     return 0;
 }
 
@@ -149,7 +139,7 @@ int ViewManage::View_CarouselText(unsigned int id, int dx, int dy)
         button->setCarouse(step);
     else if (item->inherits("XAlarmBarControl") || item->inherits("XHAlarmBarControl")
              || item->inherits("XTableViewControl"))
-        invokeIf(item, "setCarouse", "setCarouse(QPoint)", Q_ARG(QPoint, step));
+        Props::invokeIf(item, "setCarouse", "setCarouse(QPoint)", Q_ARG(QPoint, step));
     return -1;
 }
 

@@ -57,8 +57,7 @@ int ViewManage::View_PopupWindow(View_Window* window, unsigned int windowId, Vie
 
 int ViewManage::View_CloseWindow(unsigned int windowId)
 {
-    m_windowManage->closeWindow(windowId, m_idHash);
-    return 0;
+    return m_windowManage->closeWindow(windowId, m_idHash) ? 0 : -1;
 }
 
 int ViewManage::View_ShowWindow(unsigned int windowId, bool show)
@@ -140,10 +139,8 @@ int ViewManage::View_PopupMsg(const char* text, unsigned int life)
 {
     // may be called from any thread: the text is copied now and shown on the GUI thread;
     // a message longer than a screen can show is cut, so laying it out never stalls the panel
-    constexpr int kMaxMessage = 4096;
-    QString message = GuiQtAdapt::Core::fromUtf8(text);
-    if (message.size() > kMaxMessage)
-        message = message.left(kMaxMessage - 1) + QChar(0x2026);
+    using GuiQtAdapt::Core;
+    const QString message = Core::cutText(Core::fromUtf8(text), Core::kMaxShownText);
     QmlWindowManage* wm = m_windowManage.get();
     QMetaObject::invokeMethod(
         wm, [wm, message, life]() { wm->popMsg(message, life); }, Qt::QueuedConnection);
@@ -170,12 +167,3 @@ int ViewManage::View_HideProcess(unsigned int id)
     return 0;
 }
 
-int ViewManage::View_SetGlobalConfigue(View_GlobalConfig* cfg)
-{
-    return GlobalConfig::getInstance()->setGlobalConfigue(cfg);
-}
-
-int ViewManage::View_SetInterfaceConfigue(View_InterfaceConfigue* cfg)
-{
-    return GlobalConfig::getInstance()->setInterfaceConfigue(cfg);
-}

@@ -1,49 +1,72 @@
 #include "views/widgetpropertymanage.h"
 
+#include "platform/gid.h"
 #include "platform/guiqtadaptcore.h"
+#include "xcomponents/qquick/xbasecontrol.h"
 
+#include <QHash>
 #include <QMetaMethod>
 #include <QMetaObject>
 #include <QQuickItem>
+
+namespace {
+
+/** Index of \a signature in the class of \a mo, looked up once per class and signature. */
+int methodIndex(const QMetaObject* mo, const char* signature)
+{
+    static QHash<QPair<const QMetaObject*, const char*>, int> s_index; // GUI thread only
+    const auto key = qMakePair(mo, signature);
+    auto it = s_index.constFind(key);
+    if (it == s_index.constEnd())
+        it = s_index.insert(key, mo->indexOfMethod(signature));
+    return it.value();
+}
+
+} // namespace
 
 void WidgetPropertyManage::applyHeader(QQuickItem* item, unsigned header)
 {
     if (!item)
         return;
     const qreal opacity = GuiQtAdapt::Core::toOpacity(header);
-    // the method index is looked up once per item class, not per widget
-    static QHash<const QMetaObject*, int> s_index;
     const QMetaObject* mo = item->metaObject();
-    auto it = s_index.constFind(mo);
-    if (it == s_index.constEnd())
-        it = s_index.insert(mo, mo->indexOfMethod("setItemOpacity(qreal)"));
-    if (it.value() >= 0)
-        mo->method(it.value()).invoke(item, Qt::DirectConnection, Q_ARG(qreal, opacity));
+    const int index = methodIndex(mo, "setItemOpacity(qreal)");
+    if (index >= 0)
+        mo->method(index).invoke(item, Qt::DirectConnection, Q_ARG(qreal, opacity));
     else
         item->setOpacity(opacity);
 }
 
-void WidgetPropertyManage::applyRect(QQuickItem* item, const Rect& rect)
+void WidgetPropertyManage::setIds(QQuickItem* item, unsigned id, unsigned windowId)
 {
     if (!item)
         return;
-    const QRect r = GuiQtAdapt::Core::toQRect(rect);
-    item->setPosition(r.topLeft());
-    item->setSize(r.size());
+    if (auto* control = qobject_cast<XBaseControl*>(item)) {
+        control->setId(id);
+        control->setWindowId(windowId);
+        return;
+    }
+    const QMetaObject* mo = item->metaObject();
+    const int setId = methodIndex(mo, "setId(uint)");
+    const int setWindowId = methodIndex(mo, "setWindowId(uint)");
+    if (setId >= 0 && setWindowId >= 0) {
+        mo->method(setId).invoke(item, Qt::DirectConnection, Q_ARG(uint, id));
+        mo->method(setWindowId).invoke(item, Qt::DirectConnection, Q_ARG(uint, windowId));
+        return;
+    }
+    GId::setId(item, id);
+    GId::setWId(item, windowId);
 }
 
-void WidgetPropertyManage::setValue(unsigned id, const QString& key, const QVariant& value)
+bool WidgetPropertyManage::hasMethod(const QObject* obj, const char* signature)
 {
-    m_values[id].insert(key, value);
+    return obj && methodIndex(obj->metaObject(), signature) >= 0;
 }
 
-QVariant WidgetPropertyManage::value(unsigned id, const QString& key, const QVariant& fallback) const
+bool WidgetPropertyManage::invokeIf(QObject* obj, const char* name, const char* signature, QGenericArgument a,
+                                    QGenericArgument b)
 {
-    auto it = m_values.constFind(id);
-    return it == m_values.constEnd() ? fallback : it->value(key, fallback);
-}
-
-void WidgetPropertyManage::remove(unsigned id)
-{
-    m_values.remove(id);
+    if (!hasMethod(obj, signature))
+        return false;
+    return QMetaObject::invokeMethod(obj, name, Qt::DirectConnection, a, b);
 }

@@ -1,35 +1,32 @@
 #ifndef WIDGETPROPERTYMANAGE_H
 #define WIDGETPROPERTYMANAGE_H
 
-#include <QHash>
-#include <QString>
-#include <QVariant>
+#include <QGenericArgument>
 
-#include <qgui/types.h>
-
+class QObject;
 class QQuickItem;
 
 /**
  * The widgets' property store: applies the common parts of the records (header
- * word, rectangle) to items in one place, and keeps per-widget values that the
- * items do not hold themselves (by widget id and key).
+ * word, id tags) to items in one place, and changes widget state by method name
+ * (setItemOpacity, setText, showBusyIcon, ...), so that any item offering the
+ * method takes part, C++ item or QML component alike. Method look-ups are
+ * cached per item class.
  */
 class WidgetPropertyManage
 {
 public:
     /** Opacity from the header word; through setItemOpacity when the item offers it. */
     static void applyHeader(QQuickItem* item, unsigned header);
-    /** Position and size from the record's rectangle (negative sizes become 0). */
-    static void applyRect(QQuickItem* item, const Rect& rect);
+    /** Tags \a item with its widget and window ids, once: through the item's own setId and
+     *  setWindowId when it has them, else with GId tags. */
+    static void setIds(QQuickItem* item, unsigned id, unsigned windowId);
 
-    void setValue(unsigned id, const QString& key, const QVariant& value);
-    QVariant value(unsigned id, const QString& key, const QVariant& fallback = QVariant()) const;
-    /** Forgets every value of \a id (when the widget is deleted). */
-    void remove(unsigned id);
-    int count() const { return m_values.size(); }
-
-private:
-    QHash<unsigned, QHash<QString, QVariant>> m_values;
+    /** True when \a obj offers the method with the normalised \a signature ("setText(QString)"). */
+    static bool hasMethod(const QObject* obj, const char* signature);
+    /** Invokes the method \a name when \a obj offers \a signature; true when it did. */
+    static bool invokeIf(QObject* obj, const char* name, const char* signature,
+                         QGenericArgument a = QGenericArgument(), QGenericArgument b = QGenericArgument());
 };
 
 #endif // WIDGETPROPERTYMANAGE_H

@@ -180,6 +180,8 @@ void tst_Startup::antialiasing_follows_the_environment_data()
     QTest::newRow("samples not a number") << QByteArray("<unset>") << QByteArray("many") << 4;
     QTest::newRow("samples empty") << QByteArray("<unset>") << QByteArray("") << 4;
     QTest::newRow("samples negative") << QByteArray("<unset>") << QByteArray("-2") << 4;
+    QTest::newRow("samples 0 keeps antialiasing on") << QByteArray("<unset>") << QByteArray("0") << 4;
+    QTest::newRow("samples 1 keeps antialiasing on") << QByteArray("0") << QByteArray("1") << 4;
     QTest::newRow("samples huge") << QByteArray("<unset>") << QByteArray("4096") << 16;
     QTest::newRow("disable garbage reads as 0") << QByteArray("yes") << QByteArray("2") << 2;
 }

@@ -6,7 +6,7 @@
 #include "views/qmlwindowmanage.h"
 #include "views/viewmanage.h"
 #include "xcomponents/qquick/xbasecontrol.h"
-#include "views/xqmlcomponentmanage.h"
+#include "xcomponents/qquick/xqmlcomponentmanage.h"
 
 #include <QQuickItem>
 #include <QTest>

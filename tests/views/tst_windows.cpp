@@ -271,7 +271,7 @@ void tst_Windows::unknown_windows_give_their_fixed_results()
     QCOMPARE(View_ShowDesktop(42), 0);
     QCOMPARE(View_HideDesktop(42), 0);
     QCOMPARE(View_CloseDesktop(42), 0);
-    QCOMPARE(View_CloseWindow(none), 0);
+    QCOMPARE(View_CloseWindow(none), -1);
     QCOMPARE(m_panel.popup(PanelFixture::wid(42, 1), Rect{0, 0, 10, 10}), 0); // no such desktop
     QVERIFY(!dialog(PanelFixture::wid(42, 1)));
     QCOMPARE(m_panel.switchWindow(PanelFixture::wid(42, 1), Rect{0, 0, 10, 10}), -1);

@@ -8,7 +8,7 @@
 
 #include "app/xquickview.h"
 #include "config/projectmanage.h"
-#include "views/picturecachemanage.h"
+#include "xcomponents/qquick/picturecachemanage.h"
 #include "views/qmlwindowmanage.h"
 #include "views/viewmanage.h"
 #include "xcomponents/qquick/xbutton.h"

@@ -1,7 +1,7 @@
 #include "xcomponents/qquick/xbasecontrol.h"
 
 #include "platform/logiclayercaller.h"
-#include "views/xqmlcomponentmanage.h"
+#include "xcomponents/qquick/xqmlcomponentmanage.h"
 
 #include <QTouchEvent>
 

@@ -30,9 +30,9 @@ public:
     QColor color() const { return m_color; }
     void setColor(const QColor& color);
     Q_INVOKABLE quint32 getId() const { return m_id; }
-    void setId(quint32 id) { m_id = id; }
-    quint32 getWindowId() const { return m_windowId; }
-    void setWindowId(quint32 id) { m_windowId = id; }
+    Q_INVOKABLE void setId(quint32 id) { m_id = id; }
+    Q_INVOKABLE quint32 getWindowId() const { return m_windowId; }
+    Q_INVOKABLE void setWindowId(quint32 id) { m_windowId = id; }
     /** Placement of the text block in the box (Qt::Alignment bits; 0 = top left). */
     void setAlignment(int align);
     /** Alignment of the lines inside the block. */

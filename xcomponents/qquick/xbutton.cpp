@@ -1,10 +1,9 @@
 #include "xcomponents/qquick/xbutton.h"
 
 #include "config/globalconfig.h"
-#include "views/picturecachemanage.h"
-#include "views/qmlwindowmanage.h"
-#include "views/viewmanage.h"
+#include "xcomponents/qquick/picturecachemanage.h"
 #include "xcomponents/qquick/xcausetext.h"
+#include "xcomponents/qquick/xwindowlocator.h"
 #include "xcomponents/qquick/xlumodialog.h"
 #include "xcomponents/qquick/xquickimage.h"
 #include "xcomponents/qquick/xsktextlabel.h"
@@ -74,6 +73,12 @@ void XButton::setFontColor(const QColor& color)
     if (m_text && !grayFlag())
         m_text->mainLabel()->setColor(color);
     Q_EMIT fontColorChanged();
+}
+
+void XButton::setItemBrush(const QBrush& brush)
+{
+    XBaseControl::setItemBrush(brush);
+    setFontColor(brush.color());
 }
 
 void XButton::setFontAlignment(int align)
@@ -185,7 +190,8 @@ void XButton::onFontChanged()
 
 void XButton::handOver(const QPointF& pos, bool press)
 {
-    QQuickItem* holder = ViewManage::getInstance()->windowManage()->getWindowObj(getWindowId());
+    const XWindowLocator* locator = XWindowLocator::instance();
+    QQuickItem* holder = locator ? locator->getWindowObj(getWindowId()) : nullptr;
     if (auto* dialog = qobject_cast<XLumoDialog*>(holder)) {
         const QPointF p = mapToItem(dialog, pos);
         press ? dialog->pressHandler(p, this) : dialog->releaseHandler(p, this);

@@ -48,6 +48,8 @@ public:
     void setLineSpace(int space);
     QColor fontColor() const { return m_fontColor; }
     Q_INVOKABLE void setFontColor(const QColor& color);
+    /** The item brush's colour is the caption's colour (View_ChangeFontColor). */
+    Q_INVOKABLE void setItemBrush(const QBrush& brush) override;
     void setFontAlignment(int align);
     void setAlignment(Qt::Alignment align);
     void setTextHMargin(int margin);

@@ -1,11 +1,9 @@
 #include "xcomponents/qquick/xinvalidfeature.h"
 
-#include "platform/gid.h"
-
 #include <QPainter>
 
 XInvalidFeature::XInvalidFeature(QQuickItem* parent)
-    : QQuickPaintedItem(parent)
+    : XBasePaintedItem(parent)
 {
     setAntialiasing(true);
 }
@@ -17,11 +15,6 @@ void XInvalidFeature::setFeatureName(const QString& name)
     m_featureName = name;
     Q_EMIT featureNameChanged();
     update();
-}
-
-quint32 XInvalidFeature::getId() const
-{
-    return GId::id(this);
 }
 
 QRect XInvalidFeature::getWgtRect() const

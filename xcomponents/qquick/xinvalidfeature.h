@@ -1,14 +1,14 @@
 #ifndef XINVALIDFEATURE_H
 #define XINVALIDFEATURE_H
 
-#include <QQuickPaintedItem>
+#include "xcomponents/qquick/xbasepainteditem.h"
 
 /**
  * The placeholder shown where a widget kind is not available on this panel
  * (cameras, media player, remote desktop, web browser, pie chart): a hatched
  * box with the kind's name, so the operator sees that something belongs there.
  */
-class XInvalidFeature : public QQuickPaintedItem
+class XInvalidFeature : public XBasePaintedItem
 {
     Q_OBJECT
     Q_PROPERTY(QString featureName READ featureName WRITE setFeatureName NOTIFY featureNameChanged)
@@ -19,7 +19,6 @@ public:
     QString featureName() const { return m_featureName; }
     void setFeatureName(const QString& name);
 
-    Q_INVOKABLE quint32 getId() const;
     Q_INVOKABLE QRect getWgtRect() const;
     Q_INVOKABLE void setItemOpacity(qreal opacity) { setOpacity(qBound<qreal>(0.0, opacity, 1.0)); }
 

@@ -4,7 +4,7 @@
 #include <QPainter>
 
 XKeyBoardEdit::XKeyBoardEdit(QQuickItem* parent)
-    : QQuickPaintedItem(parent)
+    : XBasePaintedItem(parent)
 {
     setAntialiasing(true);
 }

@@ -2,14 +2,14 @@
 #define XKEYBOARDEDIT_H
 
 #include <QColor>
-#include <QQuickPaintedItem>
+#include "xcomponents/qquick/xbasepainteditem.h"
 
 /**
  * The one-line entry of a keyboard window's title bar: it shows the text the
  * logic layer's input method composes, with a cursor and a selection. It does
  * not take keys itself; the logic layer sets its text and cursor.
  */
-class XKeyBoardEdit : public QQuickPaintedItem
+class XKeyBoardEdit : public XBasePaintedItem
 {
     Q_OBJECT
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)

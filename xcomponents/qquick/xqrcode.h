@@ -46,9 +46,9 @@ public:
     void setFrontColor(const QColor& color);
 
     Q_INVOKABLE quint32 getId() const { return m_id; }
-    void setId(quint32 id) { m_id = id; }
-    quint32 getWindowId() const { return m_windowId; }
-    void setWindowId(quint32 id) { m_windowId = id; }
+    Q_INVOKABLE void setId(quint32 id) { m_id = id; }
+    Q_INVOKABLE quint32 getWindowId() const { return m_windowId; }
+    Q_INVOKABLE void setWindowId(quint32 id) { m_windowId = id; }
 
     QString content() const { return m_content; }
     /** Encodes UTF-8 \a text (null is empty) and shows it; false when it is too long. */

@@ -1,6 +1,6 @@
 #include "xcomponents/qquick/xquickimage.h"
 
-#include "views/xqmlcomponentmanage.h"
+#include "xcomponents/qquick/xqmlcomponentmanage.h"
 
 #include <QQmlContext>
 #include <QQmlEngine>

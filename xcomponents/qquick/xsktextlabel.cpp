@@ -1,5 +1,7 @@
 #include "xcomponents/qquick/xsktextlabel.h"
 
+#include "platform/guiqtadaptcore.h"
+
 #include <QFontMetricsF>
 #include <QtQuick/private/qquickanchors_p.h>
 #include <QtQuick/private/qquickanchors_p_p.h>
@@ -23,9 +25,11 @@ QString XskTextLabel::text() const
 
 void XskTextLabel::setText(const QString& text)
 {
-    if (m_text->text() == text)
+    // a runaway text (a corrupt file read into it) is cut, so laying it out never stalls the panel
+    const QString shown = GuiQtAdapt::Core::cutText(text, GuiQtAdapt::Core::kMaxShownText);
+    if (m_text->text() == shown)
         return;
-    m_text->setText(text);
+    m_text->setText(shown);
     Q_EMIT textChanged();
 }
 

@@ -38,6 +38,7 @@ public:
     ~XskTextLabel() override;
 
     QString text() const;
+    /** Shows \a text, cut at GuiQtAdapt::Core::kMaxShownText characters. */
     Q_INVOKABLE void setText(const QString& text);
     QFont font() const;
     void setFont(const QFont& font);

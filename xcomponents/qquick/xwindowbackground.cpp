@@ -7,7 +7,7 @@
 #include <QPainter>
 
 XWindowBackground::XWindowBackground(QQuickItem* parent)
-    : QQuickPaintedItem(parent)
+    : XBasePaintedItem(parent)
 {
     setAntialiasing(true);
 }

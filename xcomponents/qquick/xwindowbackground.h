@@ -4,7 +4,7 @@
 #include <QBrush>
 #include <QImage>
 #include <QPen>
-#include <QQuickPaintedItem>
+#include "xcomponents/qquick/xbasepainteditem.h"
 
 /**
  * The background (or frame) of a window or popup window: a picture scaled to
@@ -12,7 +12,7 @@
  * relative to the project's image folder; a picture that cannot be read falls
  * back to the fill.
  */
-class XWindowBackground : public QQuickPaintedItem
+class XWindowBackground : public XBasePaintedItem
 {
     Q_OBJECT
 

@@ -1,10 +1,12 @@
 #include "xcomponents/qquick/xwindowtitile.h"
 
+#include "platform/guiqtadaptcore.h"
+
 #include <QPainter>
 #include <QTouchEvent>
 
 WindowTitile::WindowTitile(QQuickItem* parent)
-    : QQuickPaintedItem(parent)
+    : XBasePaintedItem(parent)
 {
     setAcceptedMouseButtons(Qt::LeftButton);
     setAcceptTouchEvents(true);
@@ -16,7 +18,7 @@ void WindowTitile::setTitle(const QString& text)
 {
     // a title longer than any bar is cut, so eliding it never stalls the panel
     constexpr int kMaxTitle = 512;
-    const QString title = text.size() > kMaxTitle ? text.left(kMaxTitle - 1) + QChar(0x2026) : text;
+    const QString title = GuiQtAdapt::Core::cutText(text, kMaxTitle);
     if (m_title == title)
         return;
     m_title = title;

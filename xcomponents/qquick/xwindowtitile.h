@@ -4,7 +4,7 @@
 #include <QBrush>
 #include <QColor>
 #include <QFont>
-#include <QQuickPaintedItem>
+#include "xcomponents/qquick/xbasepainteditem.h"
 
 /**
  * The title bar of a popup window: the title text and up to three buttons
@@ -13,7 +13,7 @@
  * it), a press elsewhere emits titlePressed and, while the finger moves,
  * moveOffset with the distance moved since the last report.
  */
-class WindowTitile : public QQuickPaintedItem
+class WindowTitile : public XBasePaintedItem
 {
     Q_OBJECT
     Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged)

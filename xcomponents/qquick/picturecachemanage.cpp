@@ -1,4 +1,4 @@
-#include "views/picturecachemanage.h"
+#include "xcomponents/qquick/picturecachemanage.h"
 
 #include "config/projectmanage.h"
 #include "platform/nlogger.h"

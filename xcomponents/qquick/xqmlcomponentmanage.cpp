@@ -1,4 +1,4 @@
-#include "views/xqmlcomponentmanage.h"
+#include "xcomponents/qquick/xqmlcomponentmanage.h"
 
 #include "platform/nlogger.h"
 

@@ -1,0 +1,49 @@
+// PDF viewer and writer, export to file: not built yet. Every call is accepted and changes nothing: the
+// creators create nothing and return -1 (as for an unknown window); the other
+// calls return what they return for an unknown id.
+#include "views/viewmanage.h"
+
+int ViewManage::View_ClosePdfWriter(unsigned int)
+{
+    return -1;
+}
+
+int ViewManage::View_CreatePdf(const View_Pdf*, unsigned int)
+{
+    return -1;
+}
+
+int ViewManage::View_CreatePdfWriter(unsigned int, const char*)
+{
+    return -1;
+}
+
+int ViewManage::View_Export2File(void*, std::function<void(void*)>)
+{
+    return -1;
+}
+
+int ViewManage::View_PdfSetDisplayMode(unsigned int, int)
+{
+    return -1;
+}
+
+int ViewManage::View_PdfSwitchPage(unsigned int, unsigned int)
+{
+    return -1;
+}
+
+int ViewManage::View_PdfUpdateFile(unsigned int, const char*)
+{
+    return -1;
+}
+
+int ViewManage::View_PdfZoom(unsigned int, unsigned int)
+{
+    return -1;
+}
+
+int ViewManage::View_Write2Pdf(unsigned int, const std::vector<std::string>&, const std::vector<std::vector<std::string>>&, bool)
+{
+    return -1;
+}
