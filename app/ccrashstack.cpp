@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cstdarg>
 #include <cerrno>
+#include <cstdarg>
 #include <cstdio>
 #include <cstring>
 #include <ctime>
@@ -17,15 +17,15 @@
 
 namespace {
 
-const int kSignals[] = {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGTRAP, SIGSYS};
+const int kSignals[] = { SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGTRAP, SIGSYS };
 constexpr size_t kReportSize = 64 * 1024;
 constexpr int kMaxFrames = 64;
 constexpr int kInstructionBytes = 16;
 
 char g_report[kReportSize];
 char g_altStack[64 * 1024];
-std::atomic<bool> g_installed{false};
-std::atomic<bool> g_inHandler{false};
+std::atomic<bool> g_installed { false };
+std::atomic<bool> g_inHandler { false };
 
 struct Writer {
     char* buf;
@@ -46,7 +46,7 @@ struct Writer {
 
 const char* moduleOf(const void* addr, const char** symbol = nullptr)
 {
-    Dl_info info{};
+    Dl_info info {};
     if (addr && dladdr(addr, &info) && info.dli_fname) {
         if (symbol)
             *symbol = info.dli_sname;
@@ -60,8 +60,12 @@ const char* moduleOf(const void* addr, const char** symbol = nullptr)
 /** Reads memory of this process without faulting on a bad address. */
 ssize_t safeRead(const void* addr, void* out, size_t n)
 {
-    struct iovec local { out, n };
-    struct iovec remote { const_cast<void*>(addr), n };
+    struct iovec local {
+        out, n
+    };
+    struct iovec remote {
+        const_cast<void*>(addr), n
+    };
     return process_vm_readv(getpid(), &local, 1, &remote, 1, 0);
 }
 
@@ -92,22 +96,22 @@ void addRegisters(Writer& w, void* context)
 #if defined(__x86_64__)
     const greg_t* g = uc->uc_mcontext.gregs;
     w.add("\nRAX: %016llX RBX: %016llX RCX: %016llX RDX: %016llX", (unsigned long long)g[REG_RAX],
-          (unsigned long long)g[REG_RBX], (unsigned long long)g[REG_RCX], (unsigned long long)g[REG_RDX]);
+        (unsigned long long)g[REG_RBX], (unsigned long long)g[REG_RCX], (unsigned long long)g[REG_RDX]);
     w.add("\nRSI: %016llX RDI: %016llX RSP: %016llX RBP: %016llX", (unsigned long long)g[REG_RSI],
-          (unsigned long long)g[REG_RDI], (unsigned long long)g[REG_RSP], (unsigned long long)g[REG_RBP]);
+        (unsigned long long)g[REG_RDI], (unsigned long long)g[REG_RSP], (unsigned long long)g[REG_RBP]);
     w.add("\nRIP: %016llX EFlags: %016llX", (unsigned long long)g[REG_RIP], (unsigned long long)g[REG_EFL]);
 #elif defined(__aarch64__)
     for (int i = 0; i < 31; ++i)
         w.add("%sX%d: %016llX", (i % 4 == 0) ? "\n" : " ", i, (unsigned long long)uc->uc_mcontext.regs[i]);
     w.add("\nSP: %016llX PC: %016llX PState: %016llX", (unsigned long long)uc->uc_mcontext.sp,
-          (unsigned long long)uc->uc_mcontext.pc, (unsigned long long)uc->uc_mcontext.pstate);
+        (unsigned long long)uc->uc_mcontext.pc, (unsigned long long)uc->uc_mcontext.pstate);
 #elif defined(__i386__)
     const greg_t* g = uc->uc_mcontext.gregs;
     w.add("\nEAX: %016llX EBX: %016llX ECX: %016llX EDX: %016llX", (unsigned long long)(unsigned)g[REG_EAX],
-          (unsigned long long)(unsigned)g[REG_EBX], (unsigned long long)(unsigned)g[REG_ECX],
-          (unsigned long long)(unsigned)g[REG_EDX]);
+        (unsigned long long)(unsigned)g[REG_EBX], (unsigned long long)(unsigned)g[REG_ECX],
+        (unsigned long long)(unsigned)g[REG_EDX]);
     w.add("\nEIP: %016llX EFlags: %016llX", (unsigned long long)(unsigned)g[REG_EIP],
-          (unsigned long long)(unsigned)g[REG_EFL]);
+        (unsigned long long)(unsigned)g[REG_EFL]);
 #else
     w.add("unavailable on this architecture");
 #endif
@@ -142,14 +146,15 @@ size_t CCrashStack::GetExceptionInfo(int sig, siginfo_t* info, void* context, ch
     return buildReport(sig, info, context, buf, size, true);
 }
 
-size_t CCrashStack::buildReport(int sig, siginfo_t* info, void* context, char* buf, size_t size, bool withStack)
+size_t CCrashStack::buildReport(
+    int sig, siginfo_t* info, void* context, char* buf, size_t size, bool withStack)
 {
     if (!buf || size == 0)
         return 0;
-    Writer w{buf, size};
+    Writer w { buf, size };
     buf[0] = '\0';
 
-    struct utsname u {};
+    struct utsname u { };
     if (uname(&u) == 0)
         w.add("%s: %s, Version %s, Machine %s\n", u.sysname, u.release, u.version, u.machine);
     else
@@ -179,7 +184,7 @@ size_t CCrashStack::buildReport(int sig, siginfo_t* info, void* context, char* b
 
     if (info && (sig == SIGSEGV || sig == SIGBUS))
         w.add("\n%s Address: %016llX\n", isWriteFault(context) ? "Write" : "Read",
-              (unsigned long long)(uintptr_t)info->si_addr);
+            (unsigned long long)(uintptr_t)info->si_addr);
 
     w.add("\nCall Stack:");
     if (!withStack)
@@ -196,13 +201,14 @@ size_t CCrashStack::buildReport(int sig, siginfo_t* info, void* context, char* b
 #if defined(__x86_64__)
         auto* uc = static_cast<ucontext_t*>(context);
         uintptr_t ret = 0, rbp = uintptr_t(uc->uc_mcontext.gregs[REG_RBP]);
-        if (safeRead(reinterpret_cast<void*>(uc->uc_mcontext.gregs[REG_RSP]), &ret, sizeof(ret)) == sizeof(ret))
+        if (safeRead(reinterpret_cast<void*>(uc->uc_mcontext.gregs[REG_RSP]), &ret, sizeof(ret))
+            == sizeof(ret))
             frames[count++] = reinterpret_cast<void*>(ret);
         while (count < kMaxFrames && rbp) {
             uintptr_t pair[2];
             if (safeRead(reinterpret_cast<void*>(rbp), pair, sizeof(pair)) != sizeof(pair))
                 break;
-            Dl_info di{};
+            Dl_info di {};
             if (!pair[1] || !dladdr(reinterpret_cast<void*>(pair[1]), &di))
                 break;
             frames[count++] = reinterpret_cast<void*>(pair[1]);
@@ -216,8 +222,7 @@ size_t CCrashStack::buildReport(int sig, siginfo_t* info, void* context, char* b
         const char* sym = nullptr;
         const char* mod = moduleOf(frames[i], &sym);
         w.add("\n%016llX  %s 0x%llx %s", (unsigned long long)(uintptr_t)frames[i], mod,
-              (unsigned long long)(uintptr_t)frames[i],
-              sym ? sym : "");
+            (unsigned long long)(uintptr_t)frames[i], sym ? sym : "");
     }
     w.add("\n");
     return w.len;
@@ -275,7 +280,7 @@ void CCrashStack::install()
     ss.ss_size = sizeof(g_altStack);
     sigaltstack(&ss, nullptr);
 
-    struct sigaction sa {};
+    struct sigaction sa { };
     sa.sa_sigaction = &CCrashStack::handler;
     sigemptyset(&sa.sa_mask);
     sa.sa_flags = SA_SIGINFO | SA_ONSTACK;
@@ -295,9 +300,9 @@ int CCrashStack::reassert()
         return 0;
     int replaced = 0;
     for (int s : kSignals) {
-        struct sigaction cur {};
+        struct sigaction cur { };
         if (sigaction(s, nullptr, &cur) == 0 && cur.sa_sigaction != &CCrashStack::handler) {
-            struct sigaction sa {};
+            struct sigaction sa { };
             sa.sa_sigaction = &CCrashStack::handler;
             sigemptyset(&sa.sa_mask);
             sa.sa_flags = SA_SIGINFO | SA_ONSTACK;

@@ -23,8 +23,7 @@
  * other code replaced them (called after start-up steps that load third-party
  * code).
  */
-class CCrashStack
-{
+class CCrashStack {
 public:
     static void install();
     static void preventReplacement();
@@ -39,7 +38,8 @@ public:
     static std::string reportFileName();
 
 private:
-    static size_t buildReport(int sig, siginfo_t* info, void* context, char* buf, size_t size, bool withStack);
+    static size_t buildReport(
+        int sig, siginfo_t* info, void* context, char* buf, size_t size, bool withStack);
     static void handler(int sig, siginfo_t* info, void* context);
 };
 

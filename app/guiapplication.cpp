@@ -23,7 +23,7 @@
 #include <unistd.h>
 
 namespace {
-int g_termFds[2] = {-1, -1};
+int g_termFds[2] = { -1, -1 };
 
 void onTermSignal(int)
 {
@@ -64,7 +64,7 @@ void GuiApplication::installTermination()
         NLog::NLogger::instance()->logger()->info("termination signal: quitting");
         quit();
     });
-    struct sigaction sa {};
+    struct sigaction sa { };
     sa.sa_handler = onTermSignal;
     sigemptyset(&sa.sa_mask);
     sa.sa_flags = SA_RESTART;
@@ -111,7 +111,7 @@ int GuiApplication::deviceInit(unsigned deviceNo, const QString& a, const QStrin
     if (!projectPath.isEmpty())
         NLog::NLogger::instance()->setLogFolder((projectPath + QStringLiteral("disk/hmi/log")).toStdString());
 
-    unsigned words[3] = {0, 0, 0};
+    unsigned words[3] = { 0, 0, 0 };
     parseInitOpts(options, words);
     checkPath(projectPath, words);
     FontMange::getInstance()->loadFontFile();
@@ -154,8 +154,8 @@ void GuiApplication::parseCmdline(const QStringList& args, QString& projectPath,
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     parser.addHelpOption();
     parser.addVersionOption();
-    const char* names[] = {"hmifile", "hmidat", "imagepath", "fontpath", "regpath",
-                           "rcppath", "option", "online", "rotation"};
+    const char* names[] = { "hmifile", "hmidat", "imagepath", "fontpath", "regpath", "rcppath", "option",
+        "online", "rotation" };
     for (const char* n : names)
         parser.addOption(QCommandLineOption(QString::fromLatin1(n), QString(), QStringLiteral("value")));
     // unknown options are an error for the parser but not for the panel: the known ones still count
@@ -176,8 +176,8 @@ void GuiApplication::parseCmdline(const QStringList& args, QString& projectPath,
         setRotation(parser.value(QStringLiteral("rotation")).trimmed().toInt());
     if (parser.isSet(QStringLiteral("online"))) {
         const bool online = parser.value(QStringLiteral("online")).trimmed().toLongLong() != 0;
-        setWindowIcon(QIcon(online ? QStringLiteral(":/svg/windowIcon1.svg")
-                                   : QStringLiteral(":/svg/windowIcon.svg")));
+        setWindowIcon(
+            QIcon(online ? QStringLiteral(":/svg/windowIcon1.svg") : QStringLiteral(":/svg/windowIcon.svg")));
     }
 }
 
@@ -200,7 +200,7 @@ void GuiApplication::parseInitOpts(const QString& options, unsigned* words)
 QList<QPair<QString, qint64>> GuiApplication::preparedFiles()
 {
     // scratch state of the GUI, reset at every start
-    return {qMakePair(QStringLiteral("disk/hmi/gui_state.bin"), qint64(4096))};
+    return { qMakePair(QStringLiteral("disk/hmi/gui_state.bin"), qint64(4096)) };
 }
 
 void GuiApplication::checkPath(const QString& projectPath, const unsigned* words)

@@ -19,8 +19,7 @@ class QSocketNotifier;
  * SIGTERM and SIGINT end the event loop cleanly (aboutToQuit runs), so a
  * service manager or the logic layer itself can stop the panel.
  */
-class GuiApplication : public QApplication
-{
+class GuiApplication : public QApplication {
     Q_OBJECT
 
 public:
@@ -36,7 +35,7 @@ public:
     int getRotation() const { return m_rotation; }
     void setRotation(int degrees) { m_rotation = degrees; }
     bool isPortraitOrientation() const { return m_rotation == 90 || m_rotation == 270; }
-    void setupRotation() {}
+    void setupRotation() { }
 
     /** The panel's view; it also becomes the zoom that GlobalConfig::scale() reads. */
     void setView(XQuickView* view);
@@ -82,7 +81,7 @@ private:
 
     int m_timer10 = 0;
     int m_timer100 = 0;
-    _Main_CallBacks m_callbacks{};
+    _Main_CallBacks m_callbacks {};
     int m_rotation = 0;
     XQuickView* m_view = nullptr; // not owned
     QSocketNotifier* m_termNotifier = nullptr;

@@ -14,8 +14,7 @@
  * desktops, and turns it by windowRotation. The last shell constructed is the
  * one instance() returns, and the panel host of the window manager.
  */
-class GuiShell : public QQuickItem, public PanelHost
-{
+class GuiShell : public QQuickItem, public PanelHost {
     Q_OBJECT
     Q_PROPERTY(double windowRotation READ windowRotation WRITE setWindowRotation NOTIFY windowRotationChanged)
 
@@ -38,7 +37,7 @@ public:
     void setWindowRotation(double rotation);
 
     Q_INVOKABLE bool isDtpView() const { return false; }
-    Q_INVOKABLE void createProPkg() {}
+    Q_INVOKABLE void createProPkg() { }
     /** Appends the files under \a folder (all levels) to \a out. */
     static void addSubFolderFiles(const QString& folder, QList<QString>& out);
 

@@ -15,7 +15,7 @@
 
 #include <qgui/events.h>
 
-ImageGraber* ImageGraber::instance()
+ImageGraber* ImageGraber::getInstance()
 {
     static ImageGraber* graber = new ImageGraber; // lives as long as the process
     return graber;
@@ -32,41 +32,43 @@ QQuickItem* ImageGraber::itemFor(unsigned windowId) const
         GuiShell* shell = GuiShell::instance();
         return shell ? shell->getGuiRect() : nullptr;
     }
-    const XWindowLocator* locator = XWindowLocator::instance();
+    const XWindowLocator* locator = XWindowLocator::getInstance();
     return locator ? locator->getWindowObj(windowId) : nullptr;
 }
 
 void ImageGraber::report(unsigned id, int result, const QString& path)
 {
     const QByteArray p = path.toUtf8();
-    View_EvtScreenShot ev{};
+    View_EvtScreenShot ev {};
     ev.result = result;
     ev.path = p.constData();
     LogicLayerCaller::call(id, EVT_SCREENSHOT, &ev);
 }
 
-bool ImageGraber::grabImageOf(unsigned id, QQuickItem* item, const QRect& rect, int quality, const QString& path)
+bool ImageGraber::grabImageOf(
+    unsigned id, QQuickItem* item, const QRect& rect, int quality, const QString& path)
 {
-    if (!item || path.isEmpty() || !item->window() || !item->window()->isVisible()
-        || item->width() <= 0 || item->height() <= 0)
+    if (!item || path.isEmpty() || !item->window() || !item->window()->isVisible() || item->width() <= 0
+        || item->height() <= 0)
         return false;
     QSharedPointer<QQuickItemGrabResult> result = item->grabToImage();
     if (!result)
         return false;
     ++m_pending;
     QPointer<ImageGraber> self(this);
-    connect(result.data(), &QQuickItemGrabResult::ready, this, [this, self, result, id, rect, quality, path]() {
-        --m_pending;
-        QImage img = result->image();
-        if (rect.width() > 0 && rect.height() > 0)
-            img = img.copy(rect);
-        const QFileInfo fi(path);
-        QDir().mkpath(fi.absolutePath());
-        const bool ok = !img.isNull() && img.save(path, nullptr, quality > 0 ? qMin(quality, 100) : -1);
-        if (!ok)
-            NLog::NLogger::instance()->logger()->warn("screenshot not written: {}", path.toStdString());
-        report(id, ok ? 0 : -1, path);
-    });
+    connect(
+        result.data(), &QQuickItemGrabResult::ready, this, [this, self, result, id, rect, quality, path]() {
+            --m_pending;
+            QImage img = result->image();
+            if (rect.width() > 0 && rect.height() > 0)
+                img = img.copy(rect);
+            const QFileInfo fi(path);
+            QDir().mkpath(fi.absolutePath());
+            const bool ok = !img.isNull() && img.save(path, nullptr, quality > 0 ? qMin(quality, 100) : -1);
+            if (!ok)
+                NLog::NLogger::instance()->logger()->warn("screenshot not written: {}", path.toStdString());
+            report(id, ok ? 0 : -1, path);
+        });
     return true;
 }
 
@@ -74,7 +76,7 @@ bool ImageGraber::loadImage(unsigned id, const QString& path)
 {
     QImage img(path);
     const QByteArray p = path.toUtf8();
-    View_EvtScreenShot ev{};
+    View_EvtScreenShot ev {};
     ev.path = p.constData();
     if (img.isNull()) {
         ev.result = -1;

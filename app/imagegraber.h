@@ -15,12 +15,11 @@ class QQuickItem;
  * goes to the logic layer as event 2051 with the requesting id. Reading an
  * image back (loadImage) answers with the pixels in the same event.
  */
-class ImageGraber : public QObject
-{
+class ImageGraber : public QObject {
     Q_OBJECT
 
 public:
-    static ImageGraber* instance();
+    static ImageGraber* getInstance();
 
     /** The panel (windowId 0) or the window object with that id; null when unknown. */
     QQuickItem* itemFor(unsigned windowId) const;

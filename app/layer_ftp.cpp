@@ -20,37 +20,37 @@ int Ftp_Connect(const FtpClientPrm& prm)
     c.user = GuiQtAdapt::Core::fromUtf8(prm.user);
     c.password = GuiQtAdapt::Core::fromUtf8(prm.password);
     c.timeoutMs = prm.timeoutMs > 0 ? prm.timeoutMs : 15000;
-    return FtpClientManage::instance()->connectClient(prm.client, c);
+    return FtpClientManage::getInstance()->connectClient(prm.client, c);
 }
 
 int Ftp_CheckState(unsigned char client)
 {
     QGUI_LAYER_TRACE("client {}", int(client));
-    return FtpClientManage::instance()->state(client);
+    return FtpClientManage::getInstance()->state(client);
 }
 
 int Ftp_DisConnect(unsigned char client, bool wait)
 {
     QGUI_LAYER_LOG("client {} wait {}", int(client), wait);
-    return FtpClientManage::instance()->disconnectClient(client);
+    return FtpClientManage::getInstance()->disconnectClient(client);
 }
 
 int Ftp_Put(unsigned char client, const char* localPath, const char* remotePath, bool overwrite)
 {
     QGUI_LAYER_LOG("client {}", int(client));
-    return FtpClientManage::instance()->put(client, GuiQtAdapt::Core::fromUtf8(localPath),
-                                            GuiQtAdapt::Core::fromUtf8(remotePath), overwrite);
+    return FtpClientManage::getInstance()->put(
+        client, GuiQtAdapt::Core::fromUtf8(localPath), GuiQtAdapt::Core::fromUtf8(remotePath), overwrite);
 }
 
 int Ftp_Pull(unsigned char client, const char* localPath, const char* remotePath, bool overwrite)
 {
     QGUI_LAYER_LOG("client {}", int(client));
-    return FtpClientManage::instance()->pull(client, GuiQtAdapt::Core::fromUtf8(localPath),
-                                             GuiQtAdapt::Core::fromUtf8(remotePath), overwrite);
+    return FtpClientManage::getInstance()->pull(
+        client, GuiQtAdapt::Core::fromUtf8(localPath), GuiQtAdapt::Core::fromUtf8(remotePath), overwrite);
 }
 
 int removeClient(unsigned char client)
 {
     QGUI_LAYER_LOG("client {}", int(client));
-    return FtpClientManage::instance()->removeClient(client);
+    return FtpClientManage::getInstance()->removeClient(client);
 }

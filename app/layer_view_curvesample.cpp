@@ -34,7 +34,8 @@ int View_CurveSamplePopData(unsigned int id, unsigned int count)
     return QGUI_FORWARD(trace, "id", View_CurveSamplePopData, id, count);
 }
 
-int View_CurveSamplePushData(unsigned int id, const std::vector<std::string>& labels, const std::vector<std::vector<double>>& values)
+int View_CurveSamplePushData(
+    unsigned int id, const std::vector<std::string>& labels, const std::vector<std::vector<double>>& values)
 {
     return QGUI_FORWARD(trace, "id", View_CurveSamplePushData, id, labels, values);
 }
@@ -44,7 +45,9 @@ int View_CurveSampleScale(unsigned int id, unsigned int percent, unsigned int re
     return QGUI_FORWARD(info, "id", View_CurveSampleScale, id, percent, reserved);
 }
 
-int View_CurveSampleUpdateData(unsigned int id, const std::vector<unsigned int>& channels, const std::vector<std::string>& labels, const std::vector<std::vector<double>>& values, unsigned int start, bool last)
+int View_CurveSampleUpdateData(unsigned int id, const std::vector<unsigned int>& channels,
+    const std::vector<std::string>& labels, const std::vector<std::vector<double>>& values,
+    unsigned int start, bool last)
 {
     return QGUI_FORWARD(trace, "id", View_CurveSampleUpdateData, id, channels, labels, values, start, last);
 }

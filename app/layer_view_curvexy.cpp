@@ -19,7 +19,8 @@ int View_CurveXyShowCursor()
     return QGUI_FORWARD(info, nullptr, View_CurveXyShowCursor);
 }
 
-int View_CurveXyUpdateData(unsigned int id, const std::vector<unsigned int>& channels, const std::vector<std::list<FPoint>>& points)
+int View_CurveXyUpdateData(
+    unsigned int id, const std::vector<unsigned int>& channels, const std::vector<std::list<FPoint>>& points)
 {
     return QGUI_FORWARD(trace, "id", View_CurveXyUpdateData, id, channels, points);
 }

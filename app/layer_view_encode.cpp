@@ -47,8 +47,8 @@ int View_CvtEncode(int from, int to, const void* src, unsigned srcLen, char* dst
     }
     QByteArray out;
     TextCodecs::convert(from, to, QByteArray::fromRawData(static_cast<const char*>(src), len), out);
-    const int n = TextCodecs::boundedLength(to, out.constData(), out.size(),
-                                            int(qMin<unsigned>(dstSize, unsigned(INT_MAX))));
+    const int n = TextCodecs::boundedLength(
+        to, out.constData(), out.size(), int(qMin<unsigned>(dstSize, unsigned(INT_MAX))));
     return writeOut(out, n, dst, dstSize);
 }
 
@@ -56,7 +56,8 @@ std::string View_CvtEncode2(int from, int to, const std::string& src)
 {
     QGUI_LAYER_TRACE("from {} to {} len {}", from, to, src.size());
     QByteArray out;
-    if (!TextCodecs::convert(from, to, QByteArray::fromRawData(src.data(), int(qMin<size_t>(src.size(), INT_MAX))), out))
+    if (!TextCodecs::convert(
+            from, to, QByteArray::fromRawData(src.data(), int(qMin<size_t>(src.size(), INT_MAX))), out))
         return std::string();
     return std::string(out.constData(), size_t(out.size()));
 }

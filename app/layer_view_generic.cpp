@@ -1,5 +1,6 @@
-// Exports: generic widget operations (delete, show, hide, move, opacity, disable flags, busy icon, input flags, rectangle, parent).
-// Each export writes one log line and forwards to its ViewManage method (views/viewmanage_generic.cpp).
+// Exports: generic widget operations (delete, show, hide, move, opacity, disable flags, busy icon, input
+// flags, rectangle, parent). Each export writes one log line and forwards to its ViewManage method
+// (views/viewmanage_generic.cpp).
 #include "app/layerlog.h"
 
 #include <qgui/view.h>

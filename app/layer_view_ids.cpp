@@ -18,6 +18,6 @@ bool IsValidStrEncode(int code)
 
 const char* getStorePath(unsigned int storeNo)
 {
-    static const char* const paths[] = {"disk/tmp/", "disk/hmi/", "disk/sd/", "disk/usb1/", "disk/usb2/"};
+    static const char* const paths[] = { "disk/tmp/", "disk/hmi/", "disk/sd/", "disk/usb1/", "disk/usb2/" };
     return storeNo < 5 ? paths[storeNo] : "";
 }

@@ -44,7 +44,8 @@ int View_PdfZoom(unsigned int id, unsigned int percent)
     return QGUI_FORWARD(info, "id", View_PdfZoom, id, percent);
 }
 
-int View_Write2Pdf(unsigned int id, const std::vector<std::string>& heads, const std::vector<std::vector<std::string>>& rows, bool newPage)
+int View_Write2Pdf(unsigned int id, const std::vector<std::string>& heads,
+    const std::vector<std::vector<std::string>>& rows, bool newPage)
 {
     return QGUI_FORWARD(info, "id", View_Write2Pdf, id, heads, rows, newPage);
 }

@@ -11,13 +11,13 @@ int View_ScreenShot(unsigned int id, View_ScreenShotData* data)
     if (!data || !data->path || !*data->path)
         return -1;
     const QString path = GuiQtAdapt::Core::fromUtf8(data->path);
-    ImageGraber* graber = ImageGraber::instance();
+    ImageGraber* graber = ImageGraber::getInstance();
     switch (data->mode) {
     case SCREENSHOT_GRAB:
         return graber->grabImageOf(id, graber->itemFor(data->windowId), GuiQtAdapt::Core::toQRect(data->rect),
-                                   data->quality, path)
-                   ? 0
-                   : -1;
+                   data->quality, path)
+            ? 0
+            : -1;
     case SCREENSHOT_LOAD:
         return graber->loadImage(id, path) ? 0 : -1;
     default:

@@ -26,9 +26,9 @@
 #include <qgui/view.h>
 
 namespace {
-const char* const kMessagePattern =
-    "[%{if-debug}D%{endif}%{if-info}I%{endif}%{if-warning}W%{endif}%{if-critical}C%{endif}"
-    "%{if-fatal}F%{endif} %{file}:%{line}] %{message}";
+const char* const kMessagePattern
+    = "[%{if-debug}D%{endif}%{if-info}I%{endif}%{if-warning}W%{endif}%{if-critical}C%{endif}"
+      "%{if-fatal}F%{endif} %{file}:%{line}] %{message}";
 }
 
 int View_MainThreadLoop(int argc, char** argv, const _Main_CallBacks* callbacks)
@@ -36,7 +36,8 @@ int View_MainThreadLoop(int argc, char** argv, const _Main_CallBacks* callbacks)
     auto* log = NLog::NLogger::instance();
     // 1. the start-up arguments, converted from the local encoding
     if (argc != 1) {
-        log->log(spdlog::level::info, "qgui/app/layer_view", "View_MainThreadLoop", "start-up arguments: {}", argc);
+        log->log(spdlog::level::info, "qgui/app/layer_view", "View_MainThreadLoop", "start-up arguments: {}",
+            argc);
         for (int i = 0; argv && i < argc; ++i) {
             const std::string arg = argv[i] ? argv[i] : "";
             log->logger()->info("\n\tArg #{}: {}", i, View_CvtEncode2(2, 0, arg));

@@ -38,9 +38,9 @@ namespace qgui::layer {
 
 inline constexpr const char* kSource = "qgui/app/layer_view";
 
-template<typename... Params, typename... Args>
+template <typename... Params, typename... Args>
 int forward(spdlog::level::level_enum level, const char* function, const char* label,
-            int (ViewManage::*method)(Params...), Args&&... args)
+    int (ViewManage::*method)(Params...), Args&&... args)
 {
     NLog::NLogger* log = NLog::NLogger::instance();
     if constexpr (sizeof...(Args) > 0) {
@@ -60,7 +60,7 @@ int forward(spdlog::level::level_enum level, const char* function, const char* l
     return (ViewManage::getInstance()->*method)(std::forward<Args>(args)...);
 }
 
-template<typename... Params, typename... Args>
+template <typename... Params, typename... Args>
 int create(const char* function, const char* kind, int (ViewManage::*method)(Params...), Args&&... args)
 {
     NLog::NLogger::instance()->log(spdlog::level::info, kSource, function, "\n\t创建 {}", kind);

@@ -7,11 +7,16 @@
 const char* TextCodecs::codecName(int code)
 {
     switch (code) {
-    case 0: return "GB2312";
-    case 1: return "UTF-16LE";
-    case 2: return "UTF-8";
-    case 3: return "ISO-8859-1";
-    default: return nullptr;
+    case 0:
+        return "GB2312";
+    case 1:
+        return "UTF-16LE";
+    case 2:
+        return "UTF-8";
+    case 3:
+        return "ISO-8859-1";
+    default:
+        return nullptr;
     }
 }
 

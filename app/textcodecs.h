@@ -9,8 +9,7 @@ class QTextCodec;
  * The panel's four string encodings: 0 "GB2312", 1 "UTF-16LE", 2 "UTF-8",
  * 3 "ISO-8859-1".
  */
-class TextCodecs
-{
+class TextCodecs {
 public:
     /** The codec name of an encoding code, or null for an unknown code. */
     static const char* codecName(int code);

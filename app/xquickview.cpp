@@ -24,8 +24,8 @@ XQuickView::~XQuickView()
 void XQuickView::setXResizeMode(XResizeMode mode)
 {
     m_resizeMode = mode;
-    setResizeMode(mode == SizeViewToRootObject ? QQuickView::SizeViewToRootObject
-                                               : QQuickView::SizeRootObjectToView);
+    setResizeMode(
+        mode == SizeViewToRootObject ? QQuickView::SizeViewToRootObject : QQuickView::SizeRootObjectToView);
 }
 
 double XQuickView::rootItemScale() const
@@ -74,12 +74,17 @@ int XQuickView::reportedKeyCode(const QKeyEvent* event)
     if (!text.isEmpty())
         return int(static_cast<signed char>(text.at(0).toLatin1()));
     switch (event->key()) {
-    case Qt::Key_Escape: return 27;
-    case Qt::Key_Backspace: return 8;
+    case Qt::Key_Escape:
+        return 27;
+    case Qt::Key_Backspace:
+        return 8;
     case Qt::Key_Return:
-    case Qt::Key_Enter: return 13;
-    case Qt::Key_Delete: return 127;
-    default: return event->key();
+    case Qt::Key_Enter:
+        return 13;
+    case Qt::Key_Delete:
+        return 127;
+    default:
+        return event->key();
     }
 }
 

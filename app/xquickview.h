@@ -15,8 +15,7 @@
  *    events are dropped entirely; synthesised keys (native scan code 0, such as
  *    those of the on-screen keyboard) reach the scene but are not reported.
  */
-class XQuickView : public QQuickView, public ViewScaleSource
-{
+class XQuickView : public QQuickView, public ViewScaleSource {
     Q_OBJECT
     Q_PROPERTY(double rootItemScale READ rootItemScale WRITE setRootItemScale NOTIFY rootItemScaleChanged)
 

@@ -18,7 +18,7 @@ void FontMange::loadDefaultFont()
 {
     const QString folder = ProjectManage::getInstance()->getDefaultFontPath();
     QList<int> ids;
-    QDirIterator it(folder, {"*.ttf", "*.otf", "*.ttc", "*.TTF", "*.OTF"}, QDir::Files);
+    QDirIterator it(folder, { "*.ttf", "*.otf", "*.ttc", "*.TTF", "*.OTF" }, QDir::Files);
     while (it.hasNext()) {
         int id = QFontDatabase::addApplicationFont(it.next());
         if (id >= 0)
@@ -26,8 +26,8 @@ void FontMange::loadDefaultFont()
     }
     // the default family must show Chinese as well as Latin text
     QFontDatabase db;
-    const QStringList preferred = {QStringLiteral("Noto Sans CJK SC"), QStringLiteral("WenQuanYi Micro Hei"),
-                                   QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans")};
+    const QStringList preferred = { QStringLiteral("Noto Sans CJK SC"), QStringLiteral("WenQuanYi Micro Hei"),
+        QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans") };
     const QStringList families = db.families();
     for (const QString& f : preferred) {
         if (families.contains(f)) {
@@ -41,8 +41,7 @@ void FontMange::loadDefaultFont()
         }
     }
     NLog::NLogger::instance()->logger()->info("default fonts: {} file(s) from {}, family {}", ids.size(),
-                                              folder.toStdString(),
-                                              QGuiApplication::font().family().toStdString());
+        folder.toStdString(), QGuiApplication::font().family().toStdString());
 }
 
 int FontMange::loadFontFile()
@@ -55,8 +54,8 @@ int FontMange::loadFontFilesFrom(const QString& folder, bool recursive)
     if (folder.isEmpty())
         return 0;
     int loaded = 0;
-    QDirIterator it(folder, {"*.ttf", "*.otf", "*.ttc", "*.TTF", "*.OTF", "*.TTC"}, QDir::Files,
-                    recursive ? QDirIterator::Subdirectories : QDirIterator::NoIteratorFlags);
+    QDirIterator it(folder, { "*.ttf", "*.otf", "*.ttc", "*.TTF", "*.OTF", "*.TTC" }, QDir::Files,
+        recursive ? QDirIterator::Subdirectories : QDirIterator::NoIteratorFlags);
     while (it.hasNext()) {
         const QString file = it.next();
         int id = QFontDatabase::addApplicationFont(file);

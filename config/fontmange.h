@@ -11,8 +11,7 @@
  * and any folder on request. Project fonts can be unloaded again when another
  * project is taken into use.
  */
-class FontMange
-{
+class FontMange {
 public:
     static FontMange* getInstance();
 

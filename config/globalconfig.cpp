@@ -56,7 +56,8 @@ double GlobalConfig::scale()
     if (!m_scaleSource)
         return 1.0;
     if (!m_scaleConnected) {
-        connect(m_scaleSource->scaleNotifier(), SIGNAL(rootItemScaleChanged(double)), this, SIGNAL(scaleChanged(double)));
+        connect(m_scaleSource->scaleNotifier(), SIGNAL(rootItemScaleChanged(double)), this,
+            SIGNAL(scaleChanged(double)));
         m_scaleConnected = true;
     }
     return m_scaleSource->rootItemScale();

@@ -18,8 +18,7 @@ struct View_InterfaceConfigue;
 /**
  * Process-wide settings read by every widget; exposed to QML as "$GlobalConfig".
  */
-class GlobalConfig : public QObject
-{
+class GlobalConfig : public QObject {
     Q_OBJECT
     Q_PROPERTY(double scale READ scale NOTIFY scaleChanged)
     Q_PROPERTY(bool antialiasing READ isAntialiasing CONSTANT)
@@ -39,7 +38,7 @@ public:
     enum InputMethod {
         VirtualKeyboard = 0, ///< the on-screen keyboard pops up (default)
         PhysicalKeyboard = 1, ///< typing on a connected keyboard, no on-screen keyboard
-        Both = 2              ///< both
+        Both = 2 ///< both
     };
     Q_ENUM(InputMethod)
 
@@ -95,17 +94,17 @@ Q_SIGNALS:
 private:
     explicit GlobalConfig(QObject* parent = nullptr);
 
-    QLocale m_locale{QLocale::English, QLocale::UnitedStates};
+    QLocale m_locale { QLocale::English, QLocale::UnitedStates };
     bool m_antialiasing = true;
     InputMethod m_inputMethod = VirtualKeyboard;
     int m_scrollBarWidth = 15;
     int m_listRowLimit = 65535;
     int m_textLengthLimit = 65535;
-    QPen m_defaultPen{QColor(0x33, 0x33, 0x33), 1};
-    QColor m_defaultTextColor{Qt::black};
-    QColor m_defaultBackColor{Qt::white};
-    QColor m_selectionColor{0x6E, 0xA2, 0xE2};
-    QColor m_highlightColor{0xCC, 0xE0, 0xF8};
+    QPen m_defaultPen { QColor(0x33, 0x33, 0x33), 1 };
+    QColor m_defaultTextColor { Qt::black };
+    QColor m_defaultBackColor { Qt::white };
+    QColor m_selectionColor { 0x6E, 0xA2, 0xE2 };
+    QColor m_highlightColor { 0xCC, 0xE0, 0xF8 };
     QFont m_defaultFont;
     ViewScaleSource* m_scaleSource = nullptr; // not owned; the view installs and removes itself
     bool m_scaleConnected = false;

@@ -8,8 +8,7 @@
  * is read (it ends with "/", or is empty when no project was given); every other
  * path derives from it.
  */
-class ProjectManage
-{
+class ProjectManage {
 public:
     static ProjectManage* getInstance();
 

@@ -9,8 +9,7 @@ class QObject;
  * The view, a layer above, implements it and installs itself in GlobalConfig
  * while it exists.
  */
-class ViewScaleSource
-{
+class ViewScaleSource {
 public:
     virtual ~ViewScaleSource() = default;
     virtual double rootItemScale() const = 0;

@@ -30,8 +30,8 @@ bool XEventFilter::eventFilter(QObject* watched, QEvent* event)
         return QObject::eventFilter(watched, event);
 
     const bool second = m_sinceLastPress.isValid() && m_lastTarget == watched
-                        && m_sinceLastPress.elapsed() <= m_doubleInterval
-                        && QLineF(m_lastPressPos, me->localPos()).length() <= m_pressDistance;
+        && m_sinceLastPress.elapsed() <= m_doubleInterval
+        && QLineF(m_lastPressPos, me->localPos()).length() <= m_pressDistance;
     if (!second) {
         m_sinceLastPress.start();
         m_lastPressPos = me->localPos();
@@ -44,7 +44,7 @@ bool XEventFilter::eventFilter(QObject* watched, QEvent* event)
     m_delivering = true;
     QCoreApplication::sendEvent(watched, event);
     QMouseEvent dbl(QEvent::MouseButtonDblClick, me->localPos(), me->windowPos(), me->screenPos(),
-                    me->button(), me->buttons(), me->modifiers(), Qt::MouseEventSynthesizedByApplication);
+        me->button(), me->buttons(), me->modifiers(), Qt::MouseEventSynthesizedByApplication);
     QCoreApplication::sendEvent(watched, &dbl);
     m_delivering = false;
     Q_EMIT doubleClicked(watched, me->localPos());

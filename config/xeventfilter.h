@@ -14,8 +14,7 @@
  * doubleInterval() ms and pressDistance() pixels of the first one, delivers a
  * synthesised double-click event to the same target with sendEvent.
  */
-class XEventFilter : public QObject
-{
+class XEventFilter : public QObject {
     Q_OBJECT
 
 public:
@@ -37,7 +36,7 @@ private:
     explicit XEventFilter(QObject* parent = nullptr);
 
     int m_doubleInterval = 200; // ms
-    int m_pressDistance = 20;   // px
+    int m_pressDistance = 20; // px
     QElapsedTimer m_sinceLastPress;
     QPointF m_lastPressPos;
     QPointer<QObject> m_lastTarget;

@@ -29,9 +29,7 @@ bool DbConn_Pool::contains(unsigned dbNo) const
 
 QString DbConn_Pool::connectionName(unsigned dbNo)
 {
-    return QStringLiteral("CNM0X%1_%2")
-        .arg(quintptr(QThread::currentThreadId()), 0, 16)
-        .arg(dbNo);
+    return QStringLiteral("CNM0X%1_%2").arg(quintptr(QThread::currentThreadId()), 0, 16).arg(dbNo);
 }
 
 QSqlDatabase DbConn_Pool::pull(unsigned dbNo)
@@ -58,7 +56,7 @@ QSqlDatabase DbConn_Pool::pull(unsigned dbNo)
     if (QSqlDatabase::contains(name)) {
         if (current)
             return QSqlDatabase::database(name, true); // reopens a closed connection
-        QSqlDatabase::removeDatabase(name);           // opened with replaced login data
+        QSqlDatabase::removeDatabase(name); // opened with replaced login data
     }
     QSqlDatabase db = open(dbNo, name, info);
     QMutexLocker lock(&m_mutex);
@@ -92,8 +90,7 @@ QSqlDatabase DbConn_Pool::open(unsigned dbNo, const QString& name, const DbInfo&
         QSqlQuery wal(db);
         if (!wal.exec(QStringLiteral("pragma journal_mode=WAL"))) {
             NLog::NLogger::instance()->logger()->warn("pragma journal_mode=WAL failed on {}: {}",
-                                                      info.dbName.toStdString(),
-                                                      wal.lastError().text().toStdString());
+                info.dbName.toStdString(), wal.lastError().text().toStdString());
         }
     }
     if (db.isValid() && !db.isOpen())

@@ -14,8 +14,8 @@ struct DbInfo {
     QString hostName;
     QString userName;
     QString password;
-    QString dbName;   ///< for SQLite the file path
-    int port = -1;    ///< -1: the driver's default port
+    QString dbName; ///< for SQLite the file path
+    int port = -1; ///< -1: the driver's default port
 };
 
 /**
@@ -26,8 +26,7 @@ struct DbInfo {
  * Replacing the login data of a number makes the connections opened with the old
  * data reopen on their next use. Thread-safe.
  */
-class DbConn_Pool
-{
+class DbConn_Pool {
 public:
     static DbConn_Pool* instance();
 
@@ -52,8 +51,8 @@ private:
 
     mutable QMutex m_mutex;
     QHash<unsigned, DbInfo> m_infos;
-    QHash<unsigned, quint64> m_generation;   ///< bumped by every loginInfo of a number
-    QHash<QString, quint64> m_connections;   ///< connection name -> generation it was opened with
+    QHash<unsigned, quint64> m_generation; ///< bumped by every loginInfo of a number
+    QHash<QString, quint64> m_connections; ///< connection name -> generation it was opened with
 };
 
 } // namespace xDatabase

@@ -63,20 +63,23 @@ bool alive(QSqlDatabase& db)
 
 void logSelectError(const QSqlError& e, const std::string& sql)
 {
-    log()->error("\n\tSql Error\n\tError Code {}\n\tError Msg {}\n\tsql:[{}]",
-                 utf8(e.nativeErrorCode()), utf8(e.text()), sql);
+    log()->error("\n\tSql Error\n\tError Code {}\n\tError Msg {}\n\tsql:[{}]", utf8(e.nativeErrorCode()),
+        utf8(e.text()), sql);
 }
 
 void logQueryError(const QSqlError& e, const std::string& sql)
 {
-    log()->error("\n\tSql Error\n\tError Code {}\n\t{}\n\tsql:[{}]", utf8(e.nativeErrorCode()),
-                 utf8(e.text()), sql);
+    log()->error(
+        "\n\tSql Error\n\tError Code {}\n\t{}\n\tsql:[{}]", utf8(e.nativeErrorCode()), utf8(e.text()), sql);
 }
 
 } // namespace
 
 DDatabase::DDatabase(unsigned dbNo, QThreadPool* pool, DbResultCallBack callBack, QObject* parent)
-    : QObject(parent), m_dbNo(dbNo), m_pool(pool), m_callBack(std::move(callBack))
+    : QObject(parent)
+    , m_dbNo(dbNo)
+    , m_pool(pool)
+    , m_callBack(std::move(callBack))
 {
     connect(&m_selectWatcher, &QFutureWatcherBase::finished, this, &DDatabase::onSelectFinished);
     connect(&m_queryWatcher, &QFutureWatcherBase::finished, this, &DDatabase::onQueryFinished);
@@ -119,7 +122,7 @@ void DDatabase::query(unsigned queryId, std::list<std::string> sqls, bool read)
         if (checkFull(length)) {
             refused = true;
         } else {
-            (read ? m_readQueue : m_writeQueue).push_back(DQuery{queryId, std::move(sqls)});
+            (read ? m_readQueue : m_writeQueue).push_back(DQuery { queryId, std::move(sqls) });
             ++length;
             bool& running = read ? m_readRunning : m_writeRunning;
             start = !running;
@@ -137,7 +140,8 @@ void DDatabase::query(unsigned queryId, std::list<std::string> sqls, bool read)
         if (ownerThread)
             deliver(r);
         else
-            QMetaObject::invokeMethod(this, [this, r]() mutable { deliver(r); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                this, [this, r]() mutable { deliver(r); }, Qt::QueuedConnection);
         return;
     }
     if (!start)
@@ -145,8 +149,8 @@ void DDatabase::query(unsigned queryId, std::list<std::string> sqls, bool read)
     if (ownerThread)
         read ? watchSelect() : watchQuery();
     else
-        QMetaObject::invokeMethod(this, read ? &DDatabase::watchSelect : &DDatabase::watchQuery,
-                                  Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, read ? &DDatabase::watchSelect : &DDatabase::watchQuery, Qt::QueuedConnection);
 }
 
 DbQueryResult DDatabase::querySync(std::list<std::string> sqls, bool read)
@@ -157,11 +161,11 @@ DbQueryResult DDatabase::querySync(std::list<std::string> sqls, bool read)
             return DbQueryResult();
     }
     const unsigned dbNo = m_dbNo;
-    DQuery q{0, std::move(sqls)};
+    DQuery q { 0, std::move(sqls) };
     if (read)
         return QtConcurrent::run(m_pool, [dbNo, q] { return doSelect(dbNo, q); }).result();
-    const QList<DbQueryResult> results =
-        QtConcurrent::run(m_pool, [dbNo, q] { return doQuery(dbNo, QList<DQuery>{q}); }).result();
+    const QList<DbQueryResult> results
+        = QtConcurrent::run(m_pool, [dbNo, q] { return doQuery(dbNo, QList<DQuery> { q }); }).result();
     return results.isEmpty() ? DbQueryResult() : results.first();
 }
 
@@ -225,9 +229,8 @@ void DDatabase::watchSelect()
     }
     const unsigned dbNo = m_dbNo;
     m_readInFlight = true;
-    m_selectWatcher.setFuture(QtConcurrent::run(m_pool, [dbNo, q = std::move(q)] {
-        return std::make_shared<DbQueryResult>(doSelect(dbNo, q));
-    }));
+    m_selectWatcher.setFuture(QtConcurrent::run(
+        m_pool, [dbNo, q = std::move(q)] { return std::make_shared<DbQueryResult>(doSelect(dbNo, q)); }));
 }
 
 void DDatabase::watchQuery()
@@ -247,8 +250,8 @@ void DDatabase::watchQuery()
     }
     const unsigned dbNo = m_dbNo;
     m_writeInFlight = true;
-    m_queryWatcher.setFuture(QtConcurrent::run(
-        m_pool, [dbNo, batch = std::move(batch)] { return doQuery(dbNo, batch); }));
+    m_queryWatcher.setFuture(
+        QtConcurrent::run(m_pool, [dbNo, batch = std::move(batch)] { return doQuery(dbNo, batch); }));
 }
 
 void DDatabase::onSelectFinished()
@@ -350,8 +353,8 @@ QList<DbQueryResult> DDatabase::doQuery(unsigned dbNo, const QList<DQuery>& batc
 
         // PostgreSQL aborts the whole transaction on a failed statement; a savepoint per
         // statement keeps the others, as on the other engines.
-        const bool savepoints = transaction && request.sqls.size() > 1
-                                && db.driverName() == QLatin1String("QPSQL");
+        const bool savepoints
+            = transaction && request.sqls.size() > 1 && db.driverName() == QLatin1String("QPSQL");
         QSqlQuery q(db);
         for (const std::string& sql : request.sqls) {
             log()->debug("\n\tSql执行语句 {}", sql);

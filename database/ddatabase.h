@@ -30,8 +30,7 @@ struct DQuery {
  * the watchers' finished signals. The mutex guards the queues and the running flags
  * and is never held while a statement runs or the callback is called.
  */
-class DDatabase : public QObject
-{
+class DDatabase : public QObject {
     Q_OBJECT
 public:
     /** Most requests of one kind that may wait; one more is refused with "too many sqls". */
@@ -83,10 +82,10 @@ private:
     std::deque<DQuery> m_writeQueue;
     int m_readLength = 0;
     int m_writeLength = 0;
-    bool m_readRunning = false;  ///< a read job is running or its result is not yet handed over
+    bool m_readRunning = false; ///< a read job is running or its result is not yet handed over
     bool m_writeRunning = false; ///< the same for a write batch
     bool m_closed = false;
-    bool m_readInFlight = false;  ///< owner thread only: the select watcher holds an unanswered job
+    bool m_readInFlight = false; ///< owner thread only: the select watcher holds an unanswered job
     bool m_writeInFlight = false; ///< owner thread only: the same for the write batch
 
     QFutureWatcher<std::shared_ptr<DbQueryResult>> m_selectWatcher; ///< by pointer: rows are not copied

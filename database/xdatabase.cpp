@@ -93,18 +93,18 @@ void db_init(std::list<DbConnInfo>& infos, DbResultCallBack callBack)
         if (it != m.databases.end()) {
             (*it)->setCallBack(callBack); // waiting requests are kept
         } else {
-            m.databases.insert(info.dbNo, std::shared_ptr<DDatabase>(
-                                              new DDatabase(info.dbNo, sharedPool(m), callBack),
-                                              &deleteDatabase));
+            m.databases.insert(info.dbNo,
+                std::shared_ptr<DDatabase>(
+                    new DDatabase(info.dbNo, sharedPool(m), callBack), &deleteDatabase));
         }
-        NLog::NLogger::instance()->logger()->info("db_init: database {} driver {} name {}",
-                                                  info.dbNo, info.driver, info.dbName);
+        NLog::NLogger::instance()->logger()->info(
+            "db_init: database {} driver {} name {}", info.dbNo, info.driver, info.dbName);
     }
 }
 
 void db_query(unsigned dbNo, unsigned queryId, const char* sql, bool read)
 {
-    std::list<std::string> sqls{checkedSql(sql)};
+    std::list<std::string> sqls { checkedSql(sql) };
     if (auto d = find(dbNo))
         d->query(queryId, std::move(sqls), read);
 }
@@ -117,7 +117,7 @@ void db_query(unsigned dbNo, unsigned queryId, std::list<std::string>& sqls)
 
 DbQueryResult db_querySync(unsigned dbNo, const char* sql, bool read)
 {
-    std::list<std::string> sqls{checkedSql(sql)};
+    std::list<std::string> sqls { checkedSql(sql) };
     if (auto d = find(dbNo))
         return d->querySync(std::move(sqls), read);
     return DbQueryResult();
@@ -144,7 +144,7 @@ void db_close()
     for (const auto& d : qAsConst(databases))
         d->close();
     if (pool) {
-        pool->clear();       // jobs not started are dropped
+        pool->clear(); // jobs not started are dropped
         pool->waitForDone(); // jobs running finish
     }
     for (const auto& d : qAsConst(databases)) {

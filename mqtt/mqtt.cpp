@@ -27,11 +27,10 @@ unsigned Mqtt_CreateClient()
 void Mqtt_Connect(unsigned handle, MqttConnectPrm const& prm)
 {
     log()->info("Mqtt_Connect: {} {}:{} version {} keep-alive {} flags {:#x}", handle,
-                prm.hostName ? prm.hostName : "", prm.port, prm.version, prm.keepAlive, prm.flags);
+        prm.hostName ? prm.hostName : "", prm.port, prm.version, prm.keepAlive, prm.flags);
     QMqtt_App::instance()->connectClient(handle, text(prm.hostName), prm.port, text(prm.userName),
-                                         text(prm.password), text(prm.clientId), prm.keepAlive,
-                                         prm.version, !(prm.flags & MQTT_FLAG_SHORT_CONNECTION),
-                                         (prm.flags & MQTT_FLAG_SSL) != 0, prm.reserved);
+        text(prm.password), text(prm.clientId), prm.keepAlive, prm.version,
+        !(prm.flags & MQTT_FLAG_SHORT_CONNECTION), (prm.flags & MQTT_FLAG_SSL) != 0, prm.reserved);
 }
 
 void Mqtt_ReConnect(unsigned handle)

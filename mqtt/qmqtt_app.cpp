@@ -26,7 +26,7 @@ void postEvent(unsigned handle, int code, int value)
 {
     auto send = [handle, code, value] {
         // View_EvtMqttState and View_EvtMqttError share this layout
-        View_EvtMqttState data{handle, value};
+        View_EvtMqttState data { handle, value };
         LogicLayerCaller::call(handle, code, &data);
     };
     if (QCoreApplication* app = QCoreApplication::instance())
@@ -90,12 +90,13 @@ XMqttClient* QMqtt_App::create(unsigned handle)
         c->moveToThread(app->thread());
     // Direct: runs on the thread that changed the state (often Paho's), while the client
     // certainly exists; only values travel on to the GUI thread.
-    connect(c, &XMqttClient::stateChanged, c,
-            [handle](XMqttClient::ClientState s) { postEvent(handle, EVT_MQTT_STATE, int(s)); },
-            Qt::DirectConnection);
-    connect(c, &XMqttClient::errorChanged, c,
-            [handle, c] { postEvent(handle, EVT_MQTT_ERROR, int(c->error())); },
-            Qt::DirectConnection);
+    connect(
+        c, &XMqttClient::stateChanged, c,
+        [handle](XMqttClient::ClientState s) { postEvent(handle, EVT_MQTT_STATE, int(s)); },
+        Qt::DirectConnection);
+    connect(
+        c, &XMqttClient::errorChanged, c, [handle, c] { postEvent(handle, EVT_MQTT_ERROR, int(c->error())); },
+        Qt::DirectConnection);
     if (m_network) {
         QT_WARNING_PUSH
         QT_WARNING_DISABLE_DEPRECATED
@@ -137,8 +138,8 @@ unsigned QMqtt_App::createClient(unsigned handle)
 }
 
 void QMqtt_App::connectClient(unsigned handle, const QString& host, quint16 port, const QString& user,
-                              const QString& password, const QString& clientId, int keepAlive,
-                              int version, bool longConnect, bool secure, quint16 word)
+    const QString& password, const QString& clientId, int keepAlive, int version, bool longConnect,
+    bool secure, quint16 word)
 {
     Q_UNUSED(word) // reserved with the logic layer
     QMutexLocker lock(&m_mutex);
@@ -203,13 +204,11 @@ int QMqtt_App::publish(unsigned handle, const char* topic, const char* payload, 
     int rc = -1;
     if (c && topic) {
         rc = c->publish(QByteArray::fromRawData(topic, int(qstrlen(topic))),
-                        payload ? QByteArray::fromRawData(payload, int(qstrlen(payload))) : QByteArray(),
-                        qos, retain);
+            payload ? QByteArray::fromRawData(payload, int(qstrlen(payload))) : QByteArray(), qos, retain);
     }
     if (rc == -1) {
-        NLog::NLogger::instance()->logger()->warn("publish msg fail: topic:{}, msg:{}",
-                                                  topic ? topic : "(null)",
-                                                  payload ? payload : "(null)");
+        NLog::NLogger::instance()->logger()->warn(
+            "publish msg fail: topic:{}, msg:{}", topic ? topic : "(null)", payload ? payload : "(null)");
     }
     return rc;
 }

@@ -24,8 +24,7 @@ namespace MQTT {
  *
  * The instance is destroyed, and every client with it, when the application object is.
  */
-class QMqtt_App : public QObject
-{
+class QMqtt_App : public QObject {
     Q_OBJECT
 public:
     static QMqtt_App* instance();
@@ -36,8 +35,8 @@ public:
      *  \a handle, or 0 when it is in use. Returns the handle. */
     unsigned createClient(unsigned handle);
     void connectClient(unsigned handle, const QString& host, quint16 port, const QString& user,
-                       const QString& password, const QString& clientId, int keepAlive,
-                       int version, bool longConnect, bool secure, quint16 word);
+        const QString& password, const QString& clientId, int keepAlive, int version, bool longConnect,
+        bool secure, quint16 word);
     void disconnectClient(unsigned handle, bool force);
     void reconnectClient(unsigned handle);
     int checkState(unsigned handle);

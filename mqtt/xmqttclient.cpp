@@ -10,7 +10,7 @@
 
 std::mutex XMqttClient::s_mapMutex;
 std::map<void*, XMqttClient*> XMqttClient::s_clients;
-std::atomic<quintptr> XMqttClient::s_nextContext{1};
+std::atomic<quintptr> XMqttClient::s_nextContext { 1 };
 
 namespace {
 
@@ -28,9 +28,18 @@ struct PahoWaiter {
     bool done = false;
     std::condition_variable cv;
     static void onDone(void* context, MQTTAsync_successData*) { static_cast<PahoWaiter*>(context)->finish(); }
-    static void onFailed(void* context, MQTTAsync_failureData*) { static_cast<PahoWaiter*>(context)->finish(); }
-    static void onDone5(void* context, MQTTAsync_successData5*) { static_cast<PahoWaiter*>(context)->finish(); }
-    static void onFailed5(void* context, MQTTAsync_failureData5*) { static_cast<PahoWaiter*>(context)->finish(); }
+    static void onFailed(void* context, MQTTAsync_failureData*)
+    {
+        static_cast<PahoWaiter*>(context)->finish();
+    }
+    static void onDone5(void* context, MQTTAsync_successData5*)
+    {
+        static_cast<PahoWaiter*>(context)->finish();
+    }
+    static void onFailed5(void* context, MQTTAsync_failureData5*)
+    {
+        static_cast<PahoWaiter*>(context)->finish();
+    }
     void finish()
     {
         std::lock_guard<std::mutex> lock(mutex);
@@ -46,14 +55,14 @@ struct PahoWaiter {
 
 } // namespace
 
-XMqttClient::XMqttClient(QObject* parent) : QObject(parent)
+XMqttClient::XMqttClient(QObject* parent)
+    : QObject(parent)
 {
     // A client id of our own until the logic layer gives one: brokers refuse empty ids
     // for clients of protocol 3.1.
     m_clientId = QStringLiteral("qgui-%1").arg(quintptr(s_nextContext.fetch_add(1)) ^ quintptr(this)
-                                                    ^ quintptr(std::chrono::steady_clock::now()
-                                                                   .time_since_epoch().count()),
-                                                0, 16);
+            ^ quintptr(std::chrono::steady_clock::now().time_since_epoch().count()),
+        0, 16);
 }
 
 XMqttClient::~XMqttClient()
@@ -63,12 +72,11 @@ XMqttClient::~XMqttClient()
 
 QByteArray XMqttClient::serverUri() const
 {
-    return (m_secure ? QByteArrayLiteral("ssl://") : QByteArrayLiteral("tcp://"))
-           + m_hostname.toUtf8() + ':' + QByteArray::number(m_port);
+    return (m_secure ? QByteArrayLiteral("ssl://") : QByteArrayLiteral("tcp://")) + m_hostname.toUtf8() + ':'
+        + QByteArray::number(m_port);
 }
 
-template<typename Fn>
-void XMqttClient::route(void* context, Fn&& fn)
+template <typename Fn> void XMqttClient::route(void* context, Fn&& fn)
 {
     std::lock_guard<std::mutex> lock(s_mapMutex);
     auto it = s_clients.find(context);
@@ -105,13 +113,21 @@ XMqttClient::Error XMqttClient::errorFromConnack(int code)
 XMqttClient::Error XMqttClient::errorFromReason(int reasonCode)
 {
     switch (reasonCode) {
-    case 0x84: return InvalidProtocolVersion; // unsupported protocol version
-    case 0x85: return IdRejected;             // client identifier not valid
-    case 0x86: return BadUsernameOrPassword;
-    case 0x87: return NotAuthorized;
-    case 0x88: return ServerUnavailable;
-    case 0x81: case 0x82: return ProtocolViolation; // malformed packet, protocol error
-    default: return reasonCode >= 0x80 ? Mqtt5SpecificError : TransportInvalid;
+    case 0x84:
+        return InvalidProtocolVersion; // unsupported protocol version
+    case 0x85:
+        return IdRejected; // client identifier not valid
+    case 0x86:
+        return BadUsernameOrPassword;
+    case 0x87:
+        return NotAuthorized;
+    case 0x88:
+        return ServerUnavailable;
+    case 0x81:
+    case 0x82:
+        return ProtocolViolation; // malformed packet, protocol error
+    default:
+        return reasonCode >= 0x80 ? Mqtt5SpecificError : TransportInvalid;
     }
 }
 
@@ -135,8 +151,8 @@ void XMqttClient::connectToHost()
     // not: a burst of publishes would be refused long before the socket is the limit.
     create.maxBufferedMessages = kMaxQueuedMessages;
     MQTTAsync handle = nullptr;
-    int rc = MQTTAsync_createWithOptions(&handle, uri.constData(), clientId.constData(),
-                                         MQTTCLIENT_PERSISTENCE_NONE, nullptr, &create);
+    int rc = MQTTAsync_createWithOptions(
+        &handle, uri.constData(), clientId.constData(), MQTTCLIENT_PERSISTENCE_NONE, nullptr, &create);
     if (rc != MQTTASYNC_SUCCESS) {
         log()->warn("mqtt client {}: cannot create a client for {} ({})", m_id, uri.toStdString(), rc);
         setError(UnknownError);
@@ -150,8 +166,8 @@ void XMqttClient::connectToHost()
         std::lock_guard<std::mutex> lock(s_mapMutex);
         s_clients[m_context] = this;
     }
-    MQTTAsync_setCallbacks(handle, m_context, &XMqttClient::connectionLostServer,
-                           &XMqttClient::messageArrivedServer, nullptr);
+    MQTTAsync_setCallbacks(
+        handle, m_context, &XMqttClient::connectionLostServer, &XMqttClient::messageArrivedServer, nullptr);
     MQTTAsync_setConnected(handle, m_context, &XMqttClient::connectedServer);
 
     MQTTAsync_connectOptions opts = MQTTAsync_connectOptions_initializer;
@@ -191,10 +207,9 @@ void XMqttClient::connectToHost()
     rc = MQTTAsync_connect(handle, &opts);
     if (rc != MQTTASYNC_SUCCESS) {
         m_connectPending = false;
-        log()->warn("mqtt client {}: connect to {} refused by the library ({})", m_id,
-                    uri.toStdString(), rc);
+        log()->warn("mqtt client {}: connect to {} refused by the library ({})", m_id, uri.toStdString(), rc);
         setError(rc == MQTTASYNC_BAD_UTF8_STRING || rc == MQTTASYNC_BAD_MQTT_OPTION ? UnknownError
-                                                                                   : TransportInvalid);
+                                                                                    : TransportInvalid);
         setState(Disconnected);
     }
 }

@@ -24,8 +24,7 @@
  * All other methods are called with the manager's mutex held, never from a Paho
  * call-back (Paho forbids destroying a client from inside its own call-backs).
  */
-class XMqttClient : public QObject
-{
+class XMqttClient : public QObject {
     Q_OBJECT
 public:
     enum ClientState { Disconnected = 0, Connecting = 1, Connected = 2 };
@@ -126,8 +125,7 @@ private:
     static void onPublishFailureServer5(void* context, MQTTAsync_failureData5* response);
     static int messageArrivedServer(void* context, char* topic, int topicLen, MQTTAsync_message* message);
 
-    template<typename Fn>
-    static void route(void* context, Fn&& fn);
+    template <typename Fn> static void route(void* context, Fn&& fn);
 
     static std::mutex s_mapMutex;
     static std::map<void*, XMqttClient*> s_clients;
@@ -146,14 +144,14 @@ private:
     bool m_secure = false;
     bool m_userDisconnected = false; ///< the logic layer ended the connection
 
-    std::atomic<int> m_state{Disconnected};
-    std::atomic<int> m_error{NoError};
-    std::atomic<bool> m_connectPending{false}; ///< a connect has not been answered yet
+    std::atomic<int> m_state { Disconnected };
+    std::atomic<int> m_error { NoError };
+    std::atomic<bool> m_connectPending { false }; ///< a connect has not been answered yet
 
-    void* m_client = nullptr;  ///< the Paho handle (MQTTAsync)
-    bool m_clientV5 = false;   ///< the handle speaks MQTT 5 (it takes the version 5 call-backs only)
+    void* m_client = nullptr; ///< the Paho handle (MQTTAsync)
+    bool m_clientV5 = false; ///< the handle speaks MQTT 5 (it takes the version 5 call-backs only)
     void* m_context = nullptr; ///< token of the current Paho handle in s_clients
-    QByteArray m_connectUser;  ///< kept alive while Paho may read them
+    QByteArray m_connectUser; ///< kept alive while Paho may read them
     QByteArray m_connectPassword;
 };
 

@@ -9,8 +9,7 @@ class QObject;
  * QML items and C++ items carry them alike. An object without a tag answers its
  * QML getId() method if it has one, else 0 (the no-widget id).
  */
-class GId
-{
+class GId {
 public:
     static void setId(QObject* obj, unsigned id);
     static void setWId(QObject* obj, unsigned windowId);

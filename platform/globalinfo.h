@@ -9,8 +9,7 @@
  * locale. QML binds texts to localeName / isChinese; GlobalConfig keeps it in
  * step when the logic layer changes the language.
  */
-class GlobalInfo : public QObject
-{
+class GlobalInfo : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString localeName READ localeName NOTIFY localeChanged)
     Q_PROPERTY(bool isChinese READ isChinese NOTIFY localeChanged)
@@ -30,7 +29,7 @@ Q_SIGNALS:
 private:
     explicit GlobalInfo(QObject* parent = nullptr);
 
-    QLocale m_locale{QLocale::English, QLocale::UnitedStates};
+    QLocale m_locale { QLocale::English, QLocale::UnitedStates };
 };
 
 #endif // GLOBALINFO_H

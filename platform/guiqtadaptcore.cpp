@@ -16,12 +16,18 @@ constexpr int kDefaultPixelSize = 16;
 Qt::PenStyle penStyle(unsigned style)
 {
     switch (style) {
-    case PEN_NONE: return Qt::NoPen;
-    case PEN_DASH: return Qt::DashLine;
-    case PEN_DOT: return Qt::DotLine;
-    case PEN_DASHDOT: return Qt::DashDotLine;
-    case PEN_DASHDOTDOT: return Qt::DashDotDotLine;
-    default: return Qt::SolidLine;
+    case PEN_NONE:
+        return Qt::NoPen;
+    case PEN_DASH:
+        return Qt::DashLine;
+    case PEN_DOT:
+        return Qt::DotLine;
+    case PEN_DASHDOT:
+        return Qt::DashDotLine;
+    case PEN_DASHDOTDOT:
+        return Qt::DashDotDotLine;
+    default:
+        return Qt::SolidLine;
     }
 }
 } // namespace

@@ -22,8 +22,7 @@ namespace GuiQtAdapt {
  * records only through these functions. Every function accepts null pointers
  * and out-of-range values and returns a usable default.
  */
-class Core
-{
+class Core {
 public:
     /** Font record to QFont; null gives the application font. Sizes are clamped to 1..1024 px. */
     static QFont toQFont(const Font* font);
@@ -64,8 +63,7 @@ public:
     static QSizeF textLayoutSize(const QString& text, const QFont& font);
     /** First descendant of \a root (depth first, \a root included) that has the property
      *  \a name, and whose value equals \a value when \a value is valid. */
-    static QQuickItem* getChildByProp(QQuickItem* root, const char* name,
-                                      const QVariant& value = QVariant());
+    static QQuickItem* getChildByProp(QQuickItem* root, const char* name, const QVariant& value = QVariant());
 };
 
 } // namespace GuiQtAdapt

@@ -3,7 +3,7 @@
 #include <atomic>
 
 namespace {
-std::atomic<ViewEventCallBack> g_callBack{nullptr};
+std::atomic<ViewEventCallBack> g_callBack { nullptr };
 }
 
 void LogicLayerCaller::setCallBack(ViewEventCallBack cb)

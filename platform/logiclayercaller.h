@@ -9,8 +9,7 @@
  * on the calling thread (the GUI thread in this library) and returns the
  * call-back's result, or 0 when no call-back is installed.
  */
-class LogicLayerCaller
-{
+class LogicLayerCaller {
 public:
     static void setCallBack(ViewEventCallBack cb);
     static ViewEventCallBack callBack();

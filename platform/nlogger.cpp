@@ -11,7 +11,7 @@ namespace NLog {
 
 namespace {
 constexpr std::size_t kMaxFileSize = 4 * 1024 * 1024; // bytes per file
-constexpr std::size_t kMaxFiles = 3;                   // rotated files kept
+constexpr std::size_t kMaxFiles = 3; // rotated files kept
 
 std::string defaultFolder()
 {
@@ -55,14 +55,14 @@ void NLogger::submit(spdlog::level::level_enum lvl, std::string&& text)
         return;
     }
     std::lock_guard<std::mutex> lock(m_mutex);
-    m_pending.push_back(Pending{spdlog::log_clock::now(), lvl, std::move(text)});
+    m_pending.push_back(Pending { spdlog::log_clock::now(), lvl, std::move(text) });
 }
 
 void NLogger::writeOut(std::vector<Pending>& lines)
 {
     spdlog::logger* l = logger();
     for (Pending& p : lines)
-        l->log(p.time, spdlog::source_loc{}, p.level, p.text);
+        l->log(p.time, spdlog::source_loc {}, p.level, p.text);
     lines.clear();
 }
 
@@ -103,8 +103,7 @@ void NLogger::build(const std::string& file)
     auto err = std::make_shared<spdlog::sinks::stderr_color_sink_mt>();
     // stderr shows warnings and worse unless QGUI_LOG_VERBOSE is set; the file gets everything
     const char* verbose = std::getenv("QGUI_LOG_VERBOSE");
-    err->set_level((verbose && *verbose && *verbose != '0') ? spdlog::level::trace
-                                                              : spdlog::level::warn);
+    err->set_level((verbose && *verbose && *verbose != '0') ? spdlog::level::trace : spdlog::level::warn);
     sinks.push_back(err);
     try {
         auto f = std::make_shared<spdlog::sinks::rotating_file_sink_mt>(file, kMaxFileSize, kMaxFiles);

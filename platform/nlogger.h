@@ -25,8 +25,7 @@ namespace NLog {
  * before them, are written at once. logger() gives the plain, synchronous
  * spdlog logger.
  */
-class NLogger
-{
+class NLogger {
 public:
     static NLogger* instance();
     ~NLogger();
@@ -38,9 +37,9 @@ public:
     bool setLogFolder(const std::string& folder);
     std::string logFile() const { return m_file; }
 
-    template<typename... Args>
+    template <typename... Args>
     void log(spdlog::level::level_enum lvl, const char* source, const char* function,
-             spdlog::format_string_t<Args...> fmt, Args&&... args)
+        spdlog::format_string_t<Args...> fmt, Args&&... args)
     {
         if (!logger()->should_log(lvl))
             return;
@@ -68,7 +67,7 @@ private:
 
     std::shared_ptr<spdlog::logger> m_logger;
     std::string m_file;
-    std::mutex m_mutex;      // guards m_pending and m_stop
+    std::mutex m_mutex; // guards m_pending and m_stop
     std::mutex m_writeMutex; // one batch is written at a time
     std::condition_variable m_wake;
     std::vector<Pending> m_pending;

@@ -52,8 +52,8 @@ void XOverlay::popupClosed(XPopup* popup)
 {
     const int before = m_open.size();
     m_open.erase(std::remove_if(m_open.begin(), m_open.end(),
-                                [popup](const QPointer<XPopup>& p) { return !p || p == popup; }),
-                 m_open.end());
+                     [popup](const QPointer<XPopup>& p) { return !p || p == popup; }),
+        m_open.end());
     updateInput();
     if (before != m_open.size())
         Q_EMIT openCountChanged();

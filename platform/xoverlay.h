@@ -13,8 +13,7 @@ class XPopup;
  * while a modal popup is open, presses outside it are consumed; a press outside
  * a popup with CloseOnPressOutside closes that popup.
  */
-class XOverlay : public QQuickItem
-{
+class XOverlay : public QQuickItem {
     Q_OBJECT
     Q_PROPERTY(int openCount READ openCount NOTIFY openCountChanged)
 

@@ -14,8 +14,7 @@ class XOverlay;
  * The popup's own area takes presses that its children do not, so a press on
  * an empty part of a popup never reaches the window underneath.
  */
-class XPopup : public QQuickItem
-{
+class XPopup : public QQuickItem {
     Q_OBJECT
     Q_PROPERTY(bool opened READ isOpened NOTIFY openedChanged)
     Q_PROPERTY(bool modal READ isModal WRITE setModal NOTIFY modalChanged)
@@ -27,11 +26,7 @@ public:
     explicit XPopup(QQuickItem* parent = nullptr);
     ~XPopup() override;
 
-    enum ClosePolicyFlag {
-        NoAutoClose = 0x0,
-        CloseOnPressOutside = 0x1,
-        CloseOnEscape = 0x2
-    };
+    enum ClosePolicyFlag { NoAutoClose = 0x0, CloseOnPressOutside = 0x1, CloseOnEscape = 0x2 };
     Q_DECLARE_FLAGS(ClosePolicy, ClosePolicyFlag)
     Q_FLAG(ClosePolicy)
 

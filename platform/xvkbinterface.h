@@ -17,8 +17,7 @@ class QQuickItem;
  * Layout types: 0 decimal, 1 hexadecimal, 2 date and time, 3 date, 4 time,
  * 5 and 6 and any other value free text.
  */
-class XVkbInterface
-{
+class XVkbInterface {
 public:
     virtual ~XVkbInterface() = default;
 

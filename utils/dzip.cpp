@@ -5,10 +5,10 @@
 #include <QFileInfo>
 #include <QProcess>
 
-QStringList DZip::compressArguments(const QString& source, const QString& archive,
-                                    const QString& password, bool deleteSource)
+QStringList DZip::compressArguments(
+    const QString& source, const QString& archive, const QString& password, bool deleteSource)
 {
-    QStringList args{QStringLiteral("a")};
+    QStringList args { QStringLiteral("a") };
     if (!password.isEmpty())
         args << QStringLiteral("-p") + password;
     if (deleteSource)
@@ -17,11 +17,11 @@ QStringList DZip::compressArguments(const QString& source, const QString& archiv
     return args;
 }
 
-QStringList DZip::unCompressArguments(const QString& archive, const QString& password,
-                                      const QString& outFolder)
+QStringList DZip::unCompressArguments(
+    const QString& archive, const QString& password, const QString& outFolder)
 {
     // -bse1: error messages ("Wrong password") go to the output that is read back.
-    QStringList args{QStringLiteral("e"), QStringLiteral("-y"), QStringLiteral("-bse1")};
+    QStringList args { QStringLiteral("e"), QStringLiteral("-y"), QStringLiteral("-bse1") };
     if (!password.isEmpty())
         args << QStringLiteral("-p") + password;
     if (!outFolder.isEmpty())
@@ -43,9 +43,8 @@ bool DZip::run(const QStringList& arguments, QByteArray* output)
         p.setStandardOutputFile(QProcess::nullDevice());
     p.start(program(), arguments, QIODevice::ReadOnly);
     if (!p.waitForStarted(-1)) {
-        NLog::NLogger::instance()->logger()->error("{} cannot be started: {}",
-                                                   program().toStdString(),
-                                                   p.errorString().toStdString());
+        NLog::NLogger::instance()->logger()->error(
+            "{} cannot be started: {}", program().toStdString(), p.errorString().toStdString());
         return false;
     }
     p.waitForFinished(-1);
@@ -54,8 +53,7 @@ bool DZip::run(const QStringList& arguments, QByteArray* output)
     return true;
 }
 
-int DZip::compress(const QString& source, const QString& archive, const QString& password,
-                   bool deleteSource)
+int DZip::compress(const QString& source, const QString& archive, const QString& password, bool deleteSource)
 {
     if (source.isEmpty() || archive.isEmpty())
         return 1;

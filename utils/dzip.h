@@ -10,22 +10,21 @@
  * paths are safe), standard input closed, and waited for without a time limit:
  * packing a large folder takes as long as it takes.
  */
-class DZip
-{
+class DZip {
 public:
     /** Name of the packer, looked up on the search path. */
     static QString program() { return QStringLiteral("7z"); }
 
-    static int compress(const QString& source, const QString& archive, const QString& password,
-                        bool deleteSource);
+    static int compress(
+        const QString& source, const QString& archive, const QString& password, bool deleteSource);
     static int unCompress(const QString& archive, const QString& password, const QString& outFolder);
     static int checkResult(const QString& output);
 
     /** Arguments of the two commands (kept apart so that their form can be checked). */
-    static QStringList compressArguments(const QString& source, const QString& archive,
-                                         const QString& password, bool deleteSource);
-    static QStringList unCompressArguments(const QString& archive, const QString& password,
-                                           const QString& outFolder);
+    static QStringList compressArguments(
+        const QString& source, const QString& archive, const QString& password, bool deleteSource);
+    static QStringList unCompressArguments(
+        const QString& archive, const QString& password, const QString& outFolder);
 
 private:
     /** Runs the packer; its output (errors included) when \a output is given. false when it

@@ -11,7 +11,7 @@
 
 #include <qgui/events.h>
 
-FtpClientManage* FtpClientManage::instance()
+FtpClientManage* FtpClientManage::getInstance()
 {
     static FtpClientManage* m = new FtpClientManage; // lives as long as the process
     return m;
@@ -47,10 +47,11 @@ void FtpClientManage::setState(unsigned char client, int state)
     LogicLayerCaller::call(client, EVT_FTP_STATE, &s);
 }
 
-void FtpClientManage::finish(unsigned char client, int command, int error, const QString& local, const QString& remote)
+void FtpClientManage::finish(
+    unsigned char client, int command, int error, const QString& local, const QString& remote)
 {
     const QByteArray l = local.toUtf8(), r = remote.toUtf8();
-    View_EvtFtpResult res{command, error, l.constData(), r.constData()};
+    View_EvtFtpResult res { command, error, l.constData(), r.constData() };
     LogicLayerCaller::call(client, EVT_FTP_RESULT, &res);
 }
 
@@ -111,7 +112,8 @@ int FtpClientManage::put(unsigned char client, const QString& local, const QStri
     watch(reply, it->timeoutMs);
     connect(reply, &QNetworkReply::finished, this, [this, reply, client, local, remote]() {
         reply->deleteLater();
-        finish(client, FTP_CMD_PUT, reply->error() == QNetworkReply::NoError ? 0 : int(reply->error()), local, remote);
+        finish(client, FTP_CMD_PUT, reply->error() == QNetworkReply::NoError ? 0 : int(reply->error()), local,
+            remote);
     });
     return 0;
 }

@@ -16,12 +16,11 @@ class QNetworkReply;
  * report their result. Running a server on the panel is not offered
  * (Ftp_ConfigServer answers -1). Events are sent on the GUI thread.
  */
-class FtpClientManage : public QObject
-{
+class FtpClientManage : public QObject {
     Q_OBJECT
 
 public:
-    static FtpClientManage* instance();
+    static FtpClientManage* getInstance();
 
     struct Client {
         QString host;

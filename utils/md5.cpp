@@ -1,20 +1,22 @@
 #include "utils/md5.h"
 
-#include <cstring>
 #include <cstdlib>
+#include <cstring>
 #include <ctime>
 
 namespace {
 
 /* Position tables of the password block (see md5.h). W: where digest byte i goes;
  * R: the byte that disguises it. Disjoint, W without repeats. */
-constexpr uint8_t kWrite[16] = {5, 62, 17, 40, 28, 9, 51, 34, 1, 46, 23, 58, 13, 37, 20, 55};
-constexpr uint8_t kRead[16] = {0, 11, 26, 44, 3, 60, 31, 15, 49, 7, 39, 22, 57, 33, 2, 48};
+constexpr uint8_t kWrite[16] = { 5, 62, 17, 40, 28, 9, 51, 34, 1, 46, 23, 58, 13, 37, 20, 55 };
+constexpr uint8_t kRead[16] = { 0, 11, 26, 44, 3, 60, 31, 15, 49, 7, 39, 22, 57, 33, 2, 48 };
 
 /* The second pair, of the same form, reserved for blocks kept in the panel's I2C memory.
  * i2c_encrypt_hash deliberately writes ordinary blocks, so these are not used for now. */
-[[maybe_unused]] constexpr uint8_t kI2cWrite[16] = {60, 3, 44, 19, 8, 31, 52, 14, 27, 39, 0, 48, 22, 35, 11, 56};
-[[maybe_unused]] constexpr uint8_t kI2cRead[16] = {6, 41, 25, 63, 16, 50, 2, 33, 45, 10, 58, 29, 37, 4, 54, 21};
+[[maybe_unused]] constexpr uint8_t kI2cWrite[16]
+    = { 60, 3, 44, 19, 8, 31, 52, 14, 27, 39, 0, 48, 22, 35, 11, 56 };
+[[maybe_unused]] constexpr uint8_t kI2cRead[16]
+    = { 6, 41, 25, 63, 16, 50, 2, 33, 45, 10, 58, 29, 37, 4, 54, 21 };
 
 inline uint32_t rotl(uint32_t v, int s)
 {
@@ -166,7 +168,7 @@ void MD5::md5_append(md5_state* state, const uint8_t* data, size_t length)
 
 void MD5::md5_finish(md5_state* state, uint8_t digest[16])
 {
-    static const uint8_t kPad[64] = {0x80};
+    static const uint8_t kPad[64] = { 0x80 };
     uint8_t bits[8];
     const uint64_t bitCount = state->count * 8;
     for (int i = 0; i < 8; ++i)

@@ -13,11 +13,10 @@
  * W and R are disjoint, so no byte that a step reads is written by a later step and
  * the digest can be recovered: digest[i] = block[W[i]] - block[R[i]] * i (mod 256).
  */
-class MD5
-{
+class MD5 {
 public:
     struct md5_state {
-        uint64_t count = 0;   ///< bytes hashed so far
+        uint64_t count = 0; ///< bytes hashed so far
         uint32_t abcd[4] = {};
         uint8_t buf[64] = {}; ///< bytes not yet processed (count % 64 of them)
     };

@@ -10,8 +10,7 @@
  * the first word of its command line, equals \a name (with or without ".exe").
  * The calling process is never matched.
  */
-class ProcessKiller
-{
+class ProcessKiller {
 public:
     static QList<qint64> findByName(const QString& name);
     /** Sends SIGKILL to every match and waits up to \a waitMs until they are gone.

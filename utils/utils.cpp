@@ -12,7 +12,7 @@ namespace Utils {
 namespace {
 QMutex g_mutex;
 QString g_last;
-std::atomic<int> g_count{0};
+std::atomic<int> g_count { 0 };
 } // namespace
 
 void writeAssertLocation(const char* msg)

@@ -23,11 +23,11 @@ void resetAssertCount();
 
 /** Reports \a cond when it is false; evaluates to the condition. \a file is the source path as
  *  logged, for instance "qgui/views/ViewManage". */
-#define QGUI_CHECK_AT(cond, file)                                                                  \
-    ((cond) ? true                                                                                 \
-            : (::Utils::writeAssertLocation("\"" #cond "\" in file " file ", line "                \
-                                            QGUI_STRINGIFY(__LINE__)),                             \
-               false))
+#define QGUI_CHECK_AT(cond, file)                                                                            \
+    ((cond) ? true                                                                                           \
+            : (::Utils::writeAssertLocation(                                                                 \
+                   "\"" #cond "\" in file " file ", line " QGUI_STRINGIFY(__LINE__)),                        \
+                false))
 #define QGUI_STRINGIFY2(x) #x
 #define QGUI_STRINGIFY(x) QGUI_STRINGIFY2(x)
 

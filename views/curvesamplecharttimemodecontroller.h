@@ -7,8 +7,7 @@
  * Coordinates the time mode (history queries) of the sample curve charts.
  * Owned by ViewManage; the charts register with it when they are created.
  */
-class CurveSampleChartTimeModeController : public QObject
-{
+class CurveSampleChartTimeModeController : public QObject {
     Q_OBJECT
 
 public:

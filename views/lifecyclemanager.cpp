@@ -105,7 +105,7 @@ void LifeCycleManager::swapCache()
     visible.max_load_factor(1.0f);
     invisible.max_load_factor(1.0f);
     visible.reserve(m_visible.size() + m_invisible.size());
-    for (auto* map : {&m_visible, &m_invisible}) {
+    for (auto* map : { &m_visible, &m_invisible }) {
         for (const auto& e : *map) {
             if (e.second->parentItem())
                 visible[e.first] = e.second;
@@ -147,7 +147,7 @@ void LifeCycleManager::hideWindow(QQuickItem* windowContent, QHash<unsigned, QQu
 QList<QQuickItem*> LifeCycleManager::allItems() const
 {
     QList<QQuickItem*> items;
-    for (const auto* map : {&m_visible, &m_invisible}) {
+    for (const auto* map : { &m_visible, &m_invisible }) {
         for (const auto& e : *map)
             items.append(e.second);
     }

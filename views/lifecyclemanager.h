@@ -17,8 +17,7 @@ class QQuickItem;
  * deletes them (deferred to the event loop, so an item deleted from inside one
  * of its own handlers stays valid until the handler returns).
  */
-class LifeCycleManager
-{
+class LifeCycleManager {
 public:
     using ItemPair = QPair<unsigned, QQuickItem*>;
 

@@ -4,7 +4,7 @@ namespace {
 PanelHost* g_host = nullptr; // GUI thread only
 }
 
-PanelHost* PanelHost::instance()
+PanelHost* PanelHost::getInstance()
 {
     return g_host;
 }

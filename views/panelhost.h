@@ -10,8 +10,7 @@ class QQuickItem;
  * implements it and installs itself when it is constructed; the last one
  * installed is the host.
  */
-class PanelHost
-{
+class PanelHost {
 public:
     virtual ~PanelHost() = default;
     /** The panel control, or null before the shell scene is complete. */
@@ -20,7 +19,7 @@ public:
     virtual QQuickItem* getGuiContent() const = 0;
 
     /** The installed host, or null (no shell: nothing can be shown). */
-    static PanelHost* instance();
+    static PanelHost* getInstance();
     static void install(PanelHost* host);
     /** Removes \a host if it is the installed one. */
     static void uninstall(PanelHost* host);

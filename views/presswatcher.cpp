@@ -23,13 +23,14 @@ bool PressWatcher::eventFilter(QObject* watched, QEvent* event)
     case QEvent::MouseButtonDblClick: {
         auto* me = static_cast<QMouseEvent*>(event);
         // a touch that Qt also turns into a mouse press is reported once, as a touch
-        if (me->source() == Qt::MouseEventSynthesizedBySystem || me->source() == Qt::MouseEventSynthesizedByQt) {
+        if (me->source() == Qt::MouseEventSynthesizedBySystem
+            || me->source() == Qt::MouseEventSynthesizedByQt) {
             if (m_block)
                 return true;
             break;
         }
         if (event->type() == QEvent::MouseButtonPress) {
-            View_EvtPoint p{qRound(me->windowPos().x()), qRound(me->windowPos().y())};
+            View_EvtPoint p { qRound(me->windowPos().x()), qRound(me->windowPos().y()) };
             LogicLayerCaller::call(0, EVT_PRESS, &p);
         }
         if (m_block) {
@@ -51,7 +52,7 @@ bool PressWatcher::eventFilter(QObject* watched, QEvent* event)
         if (!te->touchPoints().isEmpty()) {
             // at the window, before the scene maps it, the point is in window coordinates
             const QPointF sp = te->touchPoints().first().pos();
-            View_EvtPoint p{qRound(sp.x()), qRound(sp.y())};
+            View_EvtPoint p { qRound(sp.x()), qRound(sp.y()) };
             LogicLayerCaller::call(0, EVT_PRESS, &p);
         }
         if (m_block) {

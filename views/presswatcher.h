@@ -10,8 +10,7 @@
  * reported but consumed, so the first touch wakes the panel without operating
  * a widget.
  */
-class PressWatcher : public QObject
-{
+class PressWatcher : public QObject {
     Q_OBJECT
 
 public:

@@ -1,16 +1,16 @@
 #include "views/qmlwindowmanage.h"
 
-#include "views/panelhost.h"
 #include "platform/guiqtadaptcore.h"
 #include "platform/logiclayercaller.h"
 #include "platform/nlogger.h"
 #include "platform/xoverlay.h"
 #include "views/lifecyclemanager.h"
+#include "views/panelhost.h"
 #include "views/presswatcher.h"
-#include "xcomponents/qquick/xqmlcomponentmanage.h"
 #include "xcomponents/qquick/keyboardwindowtitile.h"
 #include "xcomponents/qquick/lighterpopup.h"
 #include "xcomponents/qquick/xlumodialog.h"
+#include "xcomponents/qquick/xqmlcomponentmanage.h"
 #include "xcomponents/qquick/xwindow.h"
 #include "xcomponents/qquick/xwindowbackground.h"
 
@@ -30,10 +30,10 @@ const QUrl kMessageUrl(QStringLiteral("qrc:/QmlMessageBox.qml"));
 const QUrl kBusyUrl(QStringLiteral("qrc:/QmlBusyBar.qml"));
 constexpr int kDefaultTitleHeight = 40;
 
-template<typename T>
-void prune(QList<QPointer<T>>& list)
+template <typename T> void prune(QList<QPointer<T>>& list)
 {
-    list.erase(std::remove_if(list.begin(), list.end(), [](const QPointer<T>& p) { return p.isNull(); }), list.end());
+    list.erase(std::remove_if(list.begin(), list.end(), [](const QPointer<T>& p) { return p.isNull(); }),
+        list.end());
 }
 } // namespace
 
@@ -64,7 +64,7 @@ QmlWindowManage::~QmlWindowManage()
 
 QQuickItem* QmlWindowManage::panel() const
 {
-    PanelHost* host = PanelHost::instance();
+    PanelHost* host = PanelHost::getInstance();
     return host ? host->getGuiContent() : nullptr;
 }
 
@@ -72,7 +72,7 @@ QQmlEngine* QmlWindowManage::getEngine() const
 {
     if (QQmlEngine* e = XQmlComponentManage::getInstance()->engine())
         return e;
-    PanelHost* host = PanelHost::instance();
+    PanelHost* host = PanelHost::getInstance();
     QQuickItem* panel = host ? host->getGuiRect() : nullptr;
     return panel ? qmlEngine(panel) : nullptr;
 }
@@ -89,15 +89,15 @@ bool QmlWindowManage::addDeskTop(const Size& size, unsigned n)
     const QSize panelSize(qBound(1, size.width, 16384), qBound(1, size.height, 16384));
 
     // the panel control takes the desktop's size; the view fits it on the primary screen
-    if (PanelHost* h = PanelHost::instance(); h && h->getGuiRect())
+    if (PanelHost* h = PanelHost::getInstance(); h && h->getGuiRect())
         h->getGuiRect()->setSize(panelSize);
     if (auto* view = qobject_cast<QQuickView*>(host->window())) {
         QRect avail = QGuiApplication::primaryScreen() ? QGuiApplication::primaryScreen()->availableGeometry()
                                                        : QRect(0, 0, panelSize.width(), panelSize.height());
         const QSize viewSize = panelSize.boundedTo(avail.size());
         view->resize(viewSize);
-        view->setPosition(avail.topLeft() + QPoint((avail.width() - viewSize.width()) / 2,
-                                                   (avail.height() - viewSize.height()) / 2));
+        view->setPosition(avail.topLeft()
+            + QPoint((avail.width() - viewSize.width()) / 2, (avail.height() - viewSize.height()) / 2));
     }
     if (m_desktops.value(n))
         return true; // made once per number
@@ -115,7 +115,8 @@ bool QmlWindowManage::addDeskTop(const Size& size, unsigned n)
     overlay->setObjectName(QStringLiteral("overlay_%1").arg(n));
     m_overlays.insert(n, overlay);
 
-    auto* lighter = qobject_cast<XPopup*>(XQmlComponentManage::getInstance()->createItem(kLighterUrl, overlay));
+    auto* lighter
+        = qobject_cast<XPopup*>(XQmlComponentManage::getInstance()->createItem(kLighterUrl, overlay));
     if (lighter) {
         lighter->setOverlay(overlay);
         lighter->setZ(kLighterZ);
@@ -237,9 +238,11 @@ XWindow* QmlWindowManage::addWindow(const View_Window* rec)
     return win;
 }
 
-QQuickItem* QmlWindowManage::createTitleBar(XLumoDialog* dlg, const View_Window* rec, const View_Popup* popup, int flags)
+QQuickItem* QmlWindowManage::createTitleBar(
+    XLumoDialog* dlg, const View_Window* rec, const View_Popup* popup, int flags)
 {
-    WindowTitile* title = (flags & POPUP_FLAG_KEYBOARD) ? new KeyBoardWindowTitile(dlg) : new WindowTitile(dlg);
+    WindowTitile* title
+        = (flags & POPUP_FLAG_KEYBOARD) ? new KeyBoardWindowTitile(dlg) : new WindowTitile(dlg);
     title->setTitle(GuiQtAdapt::Core::fromUtf8(rec->title));
     if (rec->titleFont) {
         title->setTitleFont(GuiQtAdapt::Core::toQFont(rec->titleFont));
@@ -248,20 +251,26 @@ QQuickItem* QmlWindowManage::createTitleBar(XLumoDialog* dlg, const View_Window*
     if (popup) {
         title->setButtons(popup->buttons);
         if (popup->titleBrush.style != BRUSH_NONE)
-            title->setBackground(GuiQtAdapt::Core::toQBrush(popup->titleBrush, QRectF(0, 0, rec->rect.width, 40)));
+            title->setBackground(
+                GuiQtAdapt::Core::toQBrush(popup->titleBrush, QRectF(0, 0, rec->rect.width, 40)));
         if (popup->titleLayout)
             title->setAlignment(GuiQtAdapt::Core::toQAlignment(popup->titleLayout->align));
     }
     const unsigned id = dlg->getWindowId();
-    connect(title, &WindowTitile::closeClicked, dlg, [id]() { LogicLayerCaller::call(id, EVT_POPUP_CLOSE, nullptr); });
-    connect(title, &WindowTitile::titlePressed, dlg, [id]() { LogicLayerCaller::call(id, EVT_POPUP_TITLE_PRESS, nullptr); });
-    connect(title, &WindowTitile::upClicked, dlg, [id]() { LogicLayerCaller::call(id, EVT_POPUP_UP, nullptr); });
-    connect(title, &WindowTitile::downClicked, dlg, [id]() { LogicLayerCaller::call(id, EVT_POPUP_DOWN, nullptr); });
+    connect(title, &WindowTitile::closeClicked, dlg,
+        [id]() { LogicLayerCaller::call(id, EVT_POPUP_CLOSE, nullptr); });
+    connect(title, &WindowTitile::titlePressed, dlg,
+        [id]() { LogicLayerCaller::call(id, EVT_POPUP_TITLE_PRESS, nullptr); });
+    connect(
+        title, &WindowTitile::upClicked, dlg, [id]() { LogicLayerCaller::call(id, EVT_POPUP_UP, nullptr); });
+    connect(title, &WindowTitile::downClicked, dlg,
+        [id]() { LogicLayerCaller::call(id, EVT_POPUP_DOWN, nullptr); });
     connect(title, &WindowTitile::moveOffset, dlg, &XLumoDialog::moveBy);
     return title;
 }
 
-XLumoDialog* QmlWindowManage::popupWindow(const View_Window* rec, unsigned windowId, const View_Popup* popup, int flags)
+XLumoDialog* QmlWindowManage::popupWindow(
+    const View_Window* rec, unsigned windowId, const View_Popup* popup, int flags)
 {
     if (!rec)
         return nullptr;
@@ -376,7 +385,8 @@ QQuickItem* QmlWindowManage::currentWindow() const
 {
     XWindow* best = nullptr;
     for (XWindow* w : windows()) {
-        if (w->isVisible() && GetDeskNoFromWndId(w->getWindowId()) == m_currentDesk && (!best || w->z() >= best->z()))
+        if (w->isVisible() && GetDeskNoFromWndId(w->getWindowId()) == m_currentDesk
+            && (!best || w->z() >= best->z()))
             best = w;
     }
     return best;
@@ -415,8 +425,8 @@ void QmlWindowManage::popMsg(const QString& text, unsigned life)
         return; // no desktop yet: nowhere to show it
     if (!m_msgBox || m_msgBox->overlay() != overlay) {
         delete m_msgBox.data();
-        m_msgBox = qobject_cast<XPopup*>(XQmlComponentManage::getInstance()->createItem(
-            kMessageUrl, overlay, {{QStringLiteral("life"), life}, {QStringLiteral("countDown"), true}}));
+        m_msgBox = qobject_cast<XPopup*>(XQmlComponentManage::getInstance()->createItem(kMessageUrl, overlay,
+            { { QStringLiteral("life"), life }, { QStringLiteral("countDown"), true } }));
         if (!m_msgBox)
             return;
         m_msgBox->setOverlay(overlay);
@@ -425,7 +435,7 @@ void QmlWindowManage::popMsg(const QString& text, unsigned life)
     m_msgBox->setProperty("countDown", true);
     // centred horizontally, in the lower third of the panel
     m_msgBox->setPosition(QPointF((overlay->width() - m_msgBox->width()) / 2,
-                                  qMax<qreal>(0, overlay->height() * 2 / 3 - m_msgBox->height() / 2)));
+        qMax<qreal>(0, overlay->height() * 2 / 3 - m_msgBox->height() / 2)));
     m_msgBox->setZ(kMessageZ);
     m_msgBox->setClosePolicy(XPopup::NoAutoClose);
     m_msgBox->open();

@@ -30,8 +30,7 @@ class LifeCycleManager;
  * their own z; the message box at 2147483645; the dimming layer at 2147483647.
  * While it exists it is the window locator of the items (XWindowLocator).
  */
-class QmlWindowManage : public QObject, public XWindowLocator
-{
+class QmlWindowManage : public QObject, public XWindowLocator {
     Q_OBJECT
 
 public:

@@ -6,8 +6,8 @@
 #include "views/lifecyclemanager.h"
 #include "views/qmlwindowmanage.h"
 #include "views/widgetpropertymanage.h"
-#include "xcomponents/qquick/xqmlcomponentmanage.h"
 #include "xcomponents/qquick/xinvalidfeature.h"
+#include "xcomponents/qquick/xqmlcomponentmanage.h"
 
 #include <QQuickItem>
 
@@ -77,7 +77,7 @@ void ViewManage::appendItem(unsigned id, QQuickItem* item)
         // an id created again replaces its previous widget, which is deleted
         m_lifeCycle->destroyItem(id);
     }
-    m_lifeCycle->removeItemParent({id, item});
+    m_lifeCycle->removeItemParent({ id, item });
     m_idHash.insert(id, item);
 }
 
@@ -91,7 +91,8 @@ QQuickItem* ViewManage::creationParent(const void* rec, unsigned windowId) const
     return rec ? m_windowManage->getWindow(windowId) : nullptr;
 }
 
-void ViewManage::placeWidget(QQuickItem* item, unsigned id, unsigned windowId, const Rect& rect, unsigned header)
+void ViewManage::placeWidget(
+    QQuickItem* item, unsigned id, unsigned windowId, const Rect& rect, unsigned header)
 {
     const QRect box = GuiQtAdapt::Core::toQRect(rect);
     item->setPosition(box.topLeft());
@@ -101,24 +102,26 @@ void ViewManage::placeWidget(QQuickItem* item, unsigned id, unsigned windowId, c
     appendItem(id, item);
 }
 
-QQuickItem* ViewManage::newUnsupportFeatureImage(QQuickItem* parent, QPoint pos, QSize size, unsigned id,
-                                                 unsigned windowId, unsigned header)
+QQuickItem* ViewManage::newUnsupportFeatureImage(
+    QQuickItem* parent, QPoint pos, QSize size, unsigned id, unsigned windowId, unsigned header)
 {
     // made without an object parent: the registry owns it, so there is none to clear later
     auto* item = new XInvalidFeature;
     item->setParentItem(parent);
-    placeWidget(item, id, windowId, Rect{pos.x(), pos.y(), size.width(), size.height()}, header);
+    placeWidget(item, id, windowId, Rect { pos.x(), pos.y(), size.width(), size.height() }, header);
     return item;
 }
 
-int ViewManage::createPlaceholder(unsigned header, const Rect& rect, unsigned id, unsigned windowId, const char* name)
+int ViewManage::createPlaceholder(
+    unsigned header, const Rect& rect, unsigned id, unsigned windowId, const char* name)
 {
     QQuickItem* parent = m_windowManage->getWindow(windowId);
     if (!parent)
         return -1;
     const QRect r = GuiQtAdapt::Core::toQRect(rect);
-    auto* item = static_cast<XInvalidFeature*>(newUnsupportFeatureImage(parent, r.topLeft(), r.size(), id, windowId, header));
+    auto* item = static_cast<XInvalidFeature*>(
+        newUnsupportFeatureImage(parent, r.topLeft(), r.size(), id, windowId, header));
     item->setFeatureName(QString::fromUtf8(name) + QStringLiteral(" (") + XInvalidFeature::tr("not available")
-                         + QLatin1Char(')'));
+        + QLatin1Char(')'));
     return 0;
 }

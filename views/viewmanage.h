@@ -37,8 +37,7 @@ class CurveSampleChartTimeModeController;
  * through Utils::writeAssertLocation as
  * "\"<condition>\" in file qgui/views/ViewManage, line N" and the call returns -1.
  */
-class ViewManage : public QObject
-{
+class ViewManage : public QObject {
     Q_OBJECT
 
 public:
@@ -53,7 +52,10 @@ public:
     XQmlComponentManage* getComponentManage() const;
     QQmlEngine* getQmlEngine() const;
     QQuickItem* getDeskTop(unsigned n) const;
-    CurveSampleChartTimeModeController* getCurveSampleChartTimeModeController() const { return m_timeMode.get(); }
+    CurveSampleChartTimeModeController* getCurveSampleChartTimeModeController() const
+    {
+        return m_timeMode.get();
+    }
     void setCurveSampleChartTimeModeController(std::unique_ptr<CurveSampleChartTimeModeController> c);
 
     /** Registers a created item: clears its object parent and records it under \a id. */
@@ -65,8 +67,8 @@ public:
     const QHash<unsigned, QQuickItem*>& idHash() const { return m_idHash; }
     /** Places the placeholder shown where a widget kind is not available, and registers it;
      *  \a header is the record's opacity word. */
-    QQuickItem* newUnsupportFeatureImage(QQuickItem* parent, QPoint pos, QSize size, unsigned id, unsigned windowId,
-                                         unsigned header = 0);
+    QQuickItem* newUnsupportFeatureImage(
+        QQuickItem* parent, QPoint pos, QSize size, unsigned id, unsigned windowId, unsigned header = 0);
 
     /**
      * The creation path every View_Create* follows:
@@ -84,8 +86,7 @@ public:
      *  opacity from the header word, the widget and window ids (set once), registration. */
     void placeWidget(QQuickItem* item, unsigned id, unsigned windowId, const Rect& rect, unsigned header);
     /** The same, from any record with the common fields header, rect and id. */
-    template<class Rec>
-    void placeWidget(QQuickItem* item, const Rec* rec, unsigned windowId)
+    template <class Rec> void placeWidget(QQuickItem* item, const Rec* rec, unsigned windowId)
     {
         placeWidget(item, rec->id, windowId, rec->rect, rec->header);
     }
@@ -107,7 +108,8 @@ public:
     int View_SetWidgetParent(unsigned int id, unsigned int parentId);
     int View_ShowWidget(unsigned int id, unsigned int fromCache, ItemSlashType type);
 
-    // ---- window: desktops, windows, popups, message box, brightness, busy bar (app/layer_view_window.cpp, views/viewmanage_window.cpp)
+    // ---- window: desktops, windows, popups, message box, brightness, busy bar (app/layer_view_window.cpp,
+    // views/viewmanage_window.cpp)
     int View_ChangeWindowTitle(unsigned int windowId, const char* title);
     int View_CloseDesktop(unsigned int desktopNo);
     int View_CloseWindow(unsigned int windowId);
@@ -269,13 +271,18 @@ public:
     int View_CurveSampleClearData(unsigned int id, const std::vector<unsigned int>& channels);
     int View_CurveSampleInit(unsigned int id, const std::string& text);
     int View_CurveSamplePopData(unsigned int id, unsigned int count);
-    int View_CurveSamplePushData(unsigned int id, const std::vector<std::string>& labels, const std::vector<std::vector<double>>& values);
+    int View_CurveSamplePushData(unsigned int id, const std::vector<std::string>& labels,
+        const std::vector<std::vector<double>>& values);
     int View_CurveSampleScale(unsigned int id, unsigned int percent, unsigned int reserved);
-    int View_CurveSampleUpdateData(unsigned int id, const std::vector<unsigned int>& channels, const std::vector<std::string>& labels, const std::vector<std::vector<double>>& values, unsigned int start, bool last);
+    int View_CurveSampleUpdateData(unsigned int id, const std::vector<unsigned int>& channels,
+        const std::vector<std::string>& labels, const std::vector<std::vector<double>>& values,
+        unsigned int start, bool last);
     int View_CurveSampleUpdateDataLabel(unsigned int id, const std::vector<std::string>& labels);
-    int View_CurveSampleUpdateDataLimit(unsigned int id, int dataType, unsigned char decimals, double* limits);
+    int View_CurveSampleUpdateDataLimit(
+        unsigned int id, int dataType, unsigned char decimals, double* limits);
 
-    // ---- curvesearch: curve history search (app/layer_view_curvesearch.cpp, views/viewmanage_curvesearch.cpp)
+    // ---- curvesearch: curve history search (app/layer_view_curvesearch.cpp,
+    // views/viewmanage_curvesearch.cpp)
     int View_CurveSampleResumeRealMode(unsigned int id);
     int View_CurveSampleSetSearchMode(unsigned int id, bool on);
     int View_RestoreCurveSampleSearchState(unsigned int id);
@@ -284,18 +291,23 @@ public:
     int View_CreateCurveXy(const View_CurveXy* rec, unsigned int windowId);
     int View_CurveXyClearData(unsigned int id, const std::vector<unsigned int>& channels);
     int View_CurveXyShowCursor();
-    int View_CurveXyUpdateData(unsigned int id, const std::vector<unsigned int>& channels, const std::vector<std::list<FPoint>>& points);
+    int View_CurveXyUpdateData(unsigned int id, const std::vector<unsigned int>& channels,
+        const std::vector<std::list<FPoint>>& points);
     int View_CurveXyUpdateXLabel(unsigned int id, const std::vector<std::string>& labels);
     int View_CurveXyUpdateYLabel(unsigned int id, const std::vector<std::string>& labels);
 
     // ---- curvecursor: curve cursor (app/layer_view_curvecursor.cpp, views/viewmanage_curvecursor.cpp)
     int View_CurveEnableCursor(unsigned int id, bool enable);
-    int View_CurveSampleShowCursor(unsigned int id, const std::string& title, const std::vector<std::pair<unsigned short, std::string> >& rows);
-    int View_CurveUpdateCursorContent(unsigned int id, const char* title, const std::vector<std::vector<View_ListColData>>& rows);
-    int View_CurveUpdateCursorParams(unsigned int id, const std::vector<View_Text>& heads, const std::vector<Font*>& fonts);
+    int View_CurveSampleShowCursor(unsigned int id, const std::string& title,
+        const std::vector<std::pair<unsigned short, std::string>>& rows);
+    int View_CurveUpdateCursorContent(
+        unsigned int id, const char* title, const std::vector<std::vector<View_ListColData>>& rows);
+    int View_CurveUpdateCursorParams(
+        unsigned int id, const std::vector<View_Text>& heads, const std::vector<Font*>& fonts);
     int View_CurveUpdateCursorTitle(unsigned int id, const View_Text& title);
 
-    // ---- package: packages, external devices, file dialog (app/layer_view_package.cpp, views/viewmanage_package.cpp)
+    // ---- package: packages, external devices, file dialog (app/layer_view_package.cpp,
+    // views/viewmanage_package.cpp)
     int View_ExtDevEject(int storeNo);
     int View_PopupExtDevPlugin(unsigned int id, int storeNo);
     int View_PopupFileDialog(unsigned int id, const char* path);
@@ -311,9 +323,11 @@ public:
     int View_PdfSwitchPage(unsigned int id, unsigned int page);
     int View_PdfUpdateFile(unsigned int id, const char* path);
     int View_PdfZoom(unsigned int id, unsigned int percent);
-    int View_Write2Pdf(unsigned int id, const std::vector<std::string>& heads, const std::vector<std::vector<std::string>>& rows, bool newPage);
+    int View_Write2Pdf(unsigned int id, const std::vector<std::string>& heads,
+        const std::vector<std::vector<std::string>>& rows, bool newPage);
 
-    // ---- placeholder: cameras, media, remote desktop, web (placeholders where not available), audio (app/layer_view_placeholder.cpp, views/viewmanage_placeholder.cpp)
+    // ---- placeholder: cameras, media, remote desktop, web (placeholders where not available), audio
+    // (app/layer_view_placeholder.cpp, views/viewmanage_placeholder.cpp)
     int View_CreateCameraIP(const View_CameraIP* rec, unsigned int windowId);
     int View_CreateCameraUSB(const View_CameraUSB* rec, unsigned int windowId);
     int View_CreateMediaPlayer(const View_MediaPlayer* rec, unsigned int windowId);
@@ -328,12 +342,12 @@ public:
 private:
     ViewManage();
     /** Creator of the kinds this panel shows as a placeholder naming them. */
-    template<class Rec>
-    int createPlaceholder(const Rec* rec, unsigned windowId, const char* name)
+    template <class Rec> int createPlaceholder(const Rec* rec, unsigned windowId, const char* name)
     {
         return rec ? createPlaceholder(rec->header, rec->rect, rec->id, windowId, name) : -1;
     }
-    int createPlaceholder(unsigned header, const Rect& rect, unsigned id, unsigned windowId, const char* name);
+    int createPlaceholder(
+        unsigned header, const Rect& rect, unsigned id, unsigned windowId, const char* name);
 
     // members in order of construction
     std::unique_ptr<LifeCycleManager> m_lifeCycle;

@@ -3,8 +3,8 @@
 
 #include "platform/guiqtadaptcore.h"
 #include "views/lifecyclemanager.h"
-#include "xcomponents/qquick/picturecachemanage.h"
 #include "views/qmlwindowmanage.h"
+#include "xcomponents/qquick/picturecachemanage.h"
 #include "xcomponents/qquick/xbutton.h"
 #include "xcomponents/qquick/xwindow.h"
 

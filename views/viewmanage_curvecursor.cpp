@@ -8,17 +8,20 @@ int ViewManage::View_CurveEnableCursor(unsigned int, bool)
     return -1;
 }
 
-int ViewManage::View_CurveSampleShowCursor(unsigned int, const std::string&, const std::vector<std::pair<unsigned short, std::string> >&)
+int ViewManage::View_CurveSampleShowCursor(
+    unsigned int, const std::string&, const std::vector<std::pair<unsigned short, std::string>>&)
 {
     return -1;
 }
 
-int ViewManage::View_CurveUpdateCursorContent(unsigned int, const char*, const std::vector<std::vector<View_ListColData>>&)
+int ViewManage::View_CurveUpdateCursorContent(
+    unsigned int, const char*, const std::vector<std::vector<View_ListColData>>&)
 {
     return -1;
 }
 
-int ViewManage::View_CurveUpdateCursorParams(unsigned int, const std::vector<View_Text>&, const std::vector<Font*>&)
+int ViewManage::View_CurveUpdateCursorParams(
+    unsigned int, const std::vector<View_Text>&, const std::vector<Font*>&)
 {
     return -1;
 }

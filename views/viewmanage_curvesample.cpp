@@ -33,7 +33,8 @@ int ViewManage::View_CurveSamplePopData(unsigned int, unsigned int)
     return 0;
 }
 
-int ViewManage::View_CurveSamplePushData(unsigned int, const std::vector<std::string>&, const std::vector<std::vector<double>>&)
+int ViewManage::View_CurveSamplePushData(
+    unsigned int, const std::vector<std::string>&, const std::vector<std::vector<double>>&)
 {
     return 0;
 }
@@ -43,7 +44,8 @@ int ViewManage::View_CurveSampleScale(unsigned int, unsigned int, unsigned int)
     return 0;
 }
 
-int ViewManage::View_CurveSampleUpdateData(unsigned int, const std::vector<unsigned int>&, const std::vector<std::string>&, const std::vector<std::vector<double>>&, unsigned int, bool)
+int ViewManage::View_CurveSampleUpdateData(unsigned int, const std::vector<unsigned int>&,
+    const std::vector<std::string>&, const std::vector<std::vector<double>>&, unsigned int, bool)
 {
     return 0;
 }

@@ -18,7 +18,8 @@ int ViewManage::View_CurveXyShowCursor()
     return 0;
 }
 
-int ViewManage::View_CurveXyUpdateData(unsigned int, const std::vector<unsigned int>&, const std::vector<std::list<FPoint>>&)
+int ViewManage::View_CurveXyUpdateData(
+    unsigned int, const std::vector<unsigned int>&, const std::vector<std::list<FPoint>>&)
 {
     return 0;
 }

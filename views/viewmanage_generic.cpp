@@ -32,8 +32,8 @@ bool hasSlashAnimation(QQuickItem* item)
 /** Kinds whose picture can be hidden by View_HideWidget type 1. */
 bool takesImageHide(QQuickItem* item)
 {
-    static const char* const kinds[] = {"XButton", "XTextEdit", "XQuickTextEdit", "XLineEdit", "XDateTimeEdit",
-                                        "XMultiLineText"};
+    static const char* const kinds[]
+        = { "XButton", "XTextEdit", "XQuickTextEdit", "XLineEdit", "XDateTimeEdit", "XMultiLineText" };
     for (const char* k : kinds) {
         if (item->inherits(k))
             return true;
@@ -44,8 +44,8 @@ bool takesImageHide(QQuickItem* item)
 /** Kinds that carry a slash item (View_HideWidget type 2). */
 bool takesSlashHide(QQuickItem* item)
 {
-    static const char* const kinds[] = {"XButton",   "XBaseText",      "XMultiLineText",
-                                        "XTextEdit", "XQuickTextEdit", "XLineEdit", "XDateTimeEdit"};
+    static const char* const kinds[] = { "XButton", "XBaseText", "XMultiLineText", "XTextEdit",
+        "XQuickTextEdit", "XLineEdit", "XDateTimeEdit" };
     for (const char* k : kinds) {
         if (item->inherits(k))
             return true;
@@ -135,7 +135,8 @@ int ViewManage::View_MoveWidget(unsigned int id, int x, int y)
     if (!item)
         return -1;
     // painted items, shape images, base texts and cause texts move; other kinds do not
-    if (auto* c = qobject_cast<XBaseControl*>(item); c && (c->inherits("XCauseText") || c->inherits("XShapeImage"))) {
+    if (auto* c = qobject_cast<XBaseControl*>(item);
+        c && (c->inherits("XCauseText") || c->inherits("XShapeImage"))) {
         c->moveTo(x, y);
         return 0;
     }
@@ -256,7 +257,8 @@ int ViewManage::View_SetWidgetParent(unsigned int id, unsigned int parentId)
     unsigned windowId = parentId;
     if (!pParent) {
         // a group widget can be a parent too
-        if (QQuickItem* group = m_lifeCycle->findItemMaybeVisible(parentId); group && group->property("isGroup").toBool()) {
+        if (QQuickItem* group = m_lifeCycle->findItemMaybeVisible(parentId);
+            group && group->property("isGroup").toBool()) {
             pParent = group;
             windowId = GId::wid(group);
         }
@@ -272,7 +274,6 @@ int ViewManage::View_SetWidgetParent(unsigned int id, unsigned int parentId)
         QMetaObject::invokeMethod(item, "setWindowId", Q_ARG(uint, windowId));
     GId::setWId(item, windowId);
     item->setVisible(true);
-    m_lifeCycle->saveItem({id, item});
+    m_lifeCycle->saveItem({ id, item });
     return 0;
 }
-

@@ -43,7 +43,8 @@ int ViewManage::View_PdfZoom(unsigned int, unsigned int)
     return -1;
 }
 
-int ViewManage::View_Write2Pdf(unsigned int, const std::vector<std::string>&, const std::vector<std::vector<std::string>>&, bool)
+int ViewManage::View_Write2Pdf(
+    unsigned int, const std::vector<std::string>&, const std::vector<std::vector<std::string>>&, bool)
 {
     return -1;
 }

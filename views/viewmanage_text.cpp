@@ -86,7 +86,8 @@ int ViewManage::View_ChangeTextParam(unsigned int id, const View_Text* rec)
         control->setFont(font);
     }
     // the pen colour is the text colour
-    Props::invokeIf(item, "setItemPen", "setItemPen(QPen)", Q_ARG(QPen, QPen(Core::toQColor(rec->font->color))));
+    Props::invokeIf(
+        item, "setItemPen", "setItemPen(QPen)", Q_ARG(QPen, QPen(Core::toQColor(rec->font->color))));
     return 0;
 }
 
@@ -100,7 +101,8 @@ int ViewManage::View_ChangeTitle(unsigned int id, const View_Text* rec)
     if (rec->font) {
         if (XskTextLabel* label = labelOf(item))
             label->setFont(Core::toQFont(rec->font));
-        Props::invokeIf(item, "setFontColor", "setFontColor(QColor)", Q_ARG(QColor, Core::toQColor(rec->font->color)));
+        Props::invokeIf(
+            item, "setFontColor", "setFontColor(QColor)", Q_ARG(QColor, Core::toQColor(rec->font->color)));
     }
     return 0;
 }
@@ -138,7 +140,7 @@ int ViewManage::View_CarouselText(unsigned int id, int dx, int dy)
     if (auto* button = qobject_cast<XButton*>(item))
         button->setCarouse(step);
     else if (item->inherits("XAlarmBarControl") || item->inherits("XHAlarmBarControl")
-             || item->inherits("XTableViewControl"))
+        || item->inherits("XTableViewControl"))
         Props::invokeIf(item, "setCarouse", "setCarouse(QPoint)", Q_ARG(QPoint, step));
     return -1;
 }

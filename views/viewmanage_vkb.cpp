@@ -1,6 +1,6 @@
-// The on-screen keyboard and the Pinyin candidate bar: not built yet. Every call is accepted and changes nothing: the
-// creators create nothing and return -1 (as for an unknown window); the other
-// calls return what they return for an unknown id.
+// The on-screen keyboard and the Pinyin candidate bar: not built yet. Every call is accepted and changes
+// nothing: the creators create nothing and return -1 (as for an unknown window); the other calls return what
+// they return for an unknown id.
 #include "views/viewmanage.h"
 
 int ViewManage::View_ChangeKBText(unsigned int, const char*, const Font*)

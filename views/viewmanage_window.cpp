@@ -19,7 +19,8 @@ int ViewManage::View_CreateDesktop(const Size& size, unsigned int desktopNo)
 {
     m_windowManage->addDeskTop(size, desktopNo);
     if (QQmlEngine* engine = m_windowManage->getEngine()) {
-        engine->rootContext()->setContextProperty(QStringLiteral("$GlobalConfig"), GlobalConfig::getInstance());
+        engine->rootContext()->setContextProperty(
+            QStringLiteral("$GlobalConfig"), GlobalConfig::getInstance());
         engine->rootContext()->setContextProperty(QStringLiteral("$GlobalInfo"), GlobalInfo::instance());
     }
     return 0;
@@ -166,4 +167,3 @@ int ViewManage::View_HideProcess(unsigned int id)
     m_windowManage->stopBarAnimation();
     return 0;
 }
-

@@ -63,8 +63,8 @@ bool WidgetPropertyManage::hasMethod(const QObject* obj, const char* signature)
     return obj && methodIndex(obj->metaObject(), signature) >= 0;
 }
 
-bool WidgetPropertyManage::invokeIf(QObject* obj, const char* name, const char* signature, QGenericArgument a,
-                                    QGenericArgument b)
+bool WidgetPropertyManage::invokeIf(
+    QObject* obj, const char* name, const char* signature, QGenericArgument a, QGenericArgument b)
 {
     if (!hasMethod(obj, signature))
         return false;

@@ -13,8 +13,7 @@ class QQuickItem;
  * method takes part, C++ item or QML component alike. Method look-ups are
  * cached per item class.
  */
-class WidgetPropertyManage
-{
+class WidgetPropertyManage {
 public:
     /** Opacity from the header word; through setItemOpacity when the item offers it. */
     static void applyHeader(QQuickItem* item, unsigned header);
@@ -26,7 +25,7 @@ public:
     static bool hasMethod(const QObject* obj, const char* signature);
     /** Invokes the method \a name when \a obj offers \a signature; true when it did. */
     static bool invokeIf(QObject* obj, const char* name, const char* signature,
-                         QGenericArgument a = QGenericArgument(), QGenericArgument b = QGenericArgument());
+        QGenericArgument a = QGenericArgument(), QGenericArgument b = QGenericArgument());
 };
 
 #endif // WIDGETPROPERTYMANAGE_H

@@ -21,12 +21,12 @@ double medianMs(int repeats, const std::function<void()>& fn)
     return times[times.size() / 2];
 }
 
-double report(const std::string& name, double ours, double baseline, const std::string& unit,
-              const std::string& goal)
+double report(
+    const std::string& name, double ours, double baseline, const std::string& unit, const std::string& goal)
 {
     double ratio = baseline > 0 ? ours / baseline : 0.0;
-    std::printf("BENCH %s: ours %.4g %s | baseline %.4g %s | ratio %.3f (goal %s)\n", name.c_str(),
-                ours, unit.c_str(), baseline, unit.c_str(), ratio, goal.c_str());
+    std::printf("BENCH %s: ours %.4g %s | baseline %.4g %s | ratio %.3f (goal %s)\n", name.c_str(), ours,
+        unit.c_str(), baseline, unit.c_str(), ratio, goal.c_str());
     std::fflush(stdout);
     return ratio;
 }

@@ -19,8 +19,8 @@ namespace Bench {
 double medianMs(int repeats, const std::function<void()>& fn);
 
 /** Prints the comparison line and returns the ratio ours / baseline. */
-double report(const std::string& name, double ours, double baseline, const std::string& unit,
-              const std::string& goal);
+double report(
+    const std::string& name, double ours, double baseline, const std::string& unit, const std::string& goal);
 
 /** Prints a figure that has no baseline (for example memory per widget). */
 void note(const std::string& name, double value, const std::string& unit);

@@ -42,8 +42,8 @@ void frame(QQuickView* view)
 
 int create(unsigned id, unsigned windowId, int i)
 {
-    View_CameraIP rec{};
-    rec.rect = Rect{(i % 40) * 20, (i / 40) * 18, 18, 16};
+    View_CameraIP rec {};
+    rec.rect = Rect { (i % 40) * 20, (i / 40) * 18, 18, 16 };
     rec.id = id;
     return View_CreateCameraIP(&rec, windowId);
 }
@@ -57,7 +57,7 @@ int main(int argc, char** argv)
     if (!panel.start(QSize(800, 480)))
         return 1;
     const unsigned A = PanelFixture::wid(1, 1), B = PanelFixture::wid(1, 2);
-    panel.switchWindow(A, Rect{0, 0, 800, 480});
+    panel.switchWindow(A, Rect { 0, 0, 800, 480 });
     QQuickItem* contentA = ViewManage::getInstance()->windowManage()->getWindow(A);
 
     // 1. creation of 1,000 widgets
@@ -114,7 +114,7 @@ int main(int argc, char** argv)
         create(10000 + i, A, i);
         inA.push_back(10000 + i);
     }
-    panel.switchWindow(B, Rect{0, 0, 800, 480});
+    panel.switchWindow(B, Rect { 0, 0, 800, 480 });
     for (int i = 0; i < 200; ++i) {
         create(20000 + i, B, i);
         inB.push_back(20000 + i);
@@ -127,7 +127,7 @@ int main(int argc, char** argv)
         const std::list<unsigned>& cached = onB ? inA : inB;
         switches.push_back(Bench::medianMs(1, [&] {
             View_CloseWindow(from);
-            panel.switchWindow(to, Rect{0, 0, 800, 480});
+            panel.switchWindow(to, Rect { 0, 0, 800, 480 });
             for (unsigned id : cached)
                 View_SetWidgetParent(id, to);
         }));
@@ -157,7 +157,8 @@ int main(int argc, char** argv)
     }
     std::sort(raws.begin(), raws.end());
     const double rawMs = raws[raws.size() / 2];
-    Bench::report("switch_window_200_widgets", switchMs, rawMs, "ms", "well inside 16.7 ms; vs raw re-parenting");
+    Bench::report(
+        "switch_window_200_widgets", switchMs, rawMs, "ms", "well inside 16.7 ms; vs raw re-parenting");
 
     // 3. memory per registered widget (heap of the GUI thread, before any rendering)
     PanelFixture::settle();
@@ -167,7 +168,7 @@ int main(int argc, char** argv)
     double before = heapBytes();
     std::list<unsigned> many;
     const unsigned C = PanelFixture::wid(1, 3);
-    panel.switchWindow(C, Rect{0, 0, 800, 480});
+    panel.switchWindow(C, Rect { 0, 0, 800, 480 });
     for (int i = 0; i < n; ++i) {
         create(100000 + i, C, i % 1000);
         many.push_back(100000 + i);
@@ -184,7 +185,8 @@ int main(int argc, char** argv)
         plainItems.push_back(item);
     }
     const double plainKb = (heapBytes() - before) / n;
-    Bench::report("memory_per_widget", oursKb, plainKb, "bytes", "heap per registered widget vs the same plain item");
+    Bench::report(
+        "memory_per_widget", oursKb, plainKb, "bytes", "heap per registered widget vs the same plain item");
     panel.stop();
     return 0;
 }

@@ -21,9 +21,9 @@
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QTemporaryDir>
-#include <QVariant>
 #include <QThread>
 #include <QTimer>
+#include <QVariant>
 
 #include <MQTTAsync.h>
 
@@ -62,7 +62,7 @@ void benchDatabase(const QTemporaryDir& dir)
 {
     const QString ours = dir.filePath(QStringLiteral("ours.db"));
     const QString base = dir.filePath(QStringLiteral("base.db"));
-    std::list<xDatabase::DbConnInfo> infos{{1, "QSQLITE", "", "", "", ours.toStdString(), -1}};
+    std::list<xDatabase::DbConnInfo> infos { { 1, "QSQLITE", "", "", "", ours.toStdString(), -1 } };
     xDatabase::db_init(infos, [](xDatabase::DbQueryResult*) { ++g_results; });
     QSqlDatabase bare = bareSqlite(base, QStringLiteral("bare"));
 
@@ -90,7 +90,7 @@ void benchDatabase(const QTemporaryDir& dir)
         }
     });
     Bench::report("sqlite queued single-row writes", writes / oursMs * 1000, writes / bareMs * 1000,
-                  "writes/s", ">= 0.8x");
+        "writes/s", ">= 0.8x");
 
     // reads: 10,000 rows x 5 columns
     const char* create2 = "create table r (a integer, b text, c real, d text, e integer)";
@@ -99,7 +99,7 @@ void benchDatabase(const QTemporaryDir& dir)
     std::list<std::string> fill;
     for (int i = 0; i < 10000; ++i)
         fill.push_back("insert into r values (" + std::to_string(i) + ", 'name " + std::to_string(i) + "', "
-                       + std::to_string(i * 0.25) + ", 'some longer text value', " + std::to_string(i * 7) + ")");
+            + std::to_string(i * 0.25) + ", 'some longer text value', " + std::to_string(i * 7) + ")");
     xDatabase::db_querySync(1, fill);
     bare.transaction();
     for (const std::string& s : fill)
@@ -135,7 +135,7 @@ void benchDatabase(const QTemporaryDir& dir)
 // ---- MQTT ----
 
 struct Counter {
-    std::atomic<int> n{0};
+    std::atomic<int> n { 0 };
 };
 
 int onMessage(void* context, char* topic, int, MQTTAsync_message* m)
@@ -156,7 +156,7 @@ MQTTAsync pahoClient(const QByteArray& uri, const char* id, Counter* counter, co
     MQTTAsync c = nullptr;
     MQTTAsync_create(&c, uri.constData(), id, MQTTCLIENT_PERSISTENCE_NONE, nullptr);
     MQTTAsync_setCallbacks(c, counter, nullptr, &onMessage, nullptr);
-    std::atomic<bool> ok{false};
+    std::atomic<bool> ok { false };
     MQTTAsync_connectOptions o = MQTTAsync_connectOptions_initializer;
     o.keepAliveInterval = 30;
     o.cleansession = 1;
@@ -165,7 +165,7 @@ MQTTAsync pahoClient(const QByteArray& uri, const char* id, Counter* counter, co
     MQTTAsync_connect(c, &o);
     spinUntil([&] { return ok.load(); }, 10000);
     if (subscribe) {
-        std::atomic<bool> subscribed{false};
+        std::atomic<bool> subscribed { false };
         MQTTAsync_responseOptions r = MQTTAsync_responseOptions_initializer;
         r.onSuccess = &onDone;
         r.context = &subscribed;
@@ -183,7 +183,7 @@ void benchMqtt()
         return;
     }
     const QByteArray uri = "tcp://127.0.0.1:" + QByteArray::number(broker.port());
-    for (int qos : {0, 1}) {
+    for (int qos : { 0, 1 }) {
         const int n = qos == 0 ? 20000 : 10000;
         Counter received;
         const QByteArray topic = "bench/q" + QByteArray::number(qos);
@@ -193,7 +193,7 @@ void benchMqtt()
 
         // ours
         const unsigned h = MQTT::Mqtt_CreateClient();
-        MQTT::MqttConnectPrm p{};
+        MQTT::MqttConnectPrm p {};
         p.hostName = "127.0.0.1";
         p.port = broker.port();
         p.version = 4;
@@ -234,8 +234,8 @@ void benchMqtt()
         MQTTAsync_destroy(&pub);
         MQTTAsync_destroy(&sub);
         Bench::report("mqtt publish qos " + std::to_string(qos) + " (" + std::to_string(oursGot) + "/"
-                          + std::to_string(bareGot) + " of " + std::to_string(n) + " received)",
-                      oursGot / oursMs * 1000, bareGot / bareMs * 1000, "msg/s", ">= 0.8x");
+                + std::to_string(bareGot) + " of " + std::to_string(n) + " received)",
+            oursGot / oursMs * 1000, bareGot / bareMs * 1000, "msg/s", ">= 0.8x");
     }
 }
 
@@ -244,7 +244,7 @@ void benchMd5()
     QByteArray small("operator-passwd"); // 15 bytes, a normalised password
     QByteArray big(1 << 20, 'm');
     unsigned char out[16];
-    for (const auto& c : {std::make_pair(&small, 200000), std::make_pair(&big, 40)}) {
+    for (const auto& c : { std::make_pair(&small, 200000), std::make_pair(&big, 40) }) {
         QByteArray& data = *c.first;
         const int loops = c.second;
         const double ours = Bench::medianMs(5, [&] {
@@ -256,7 +256,7 @@ void benchMd5()
                 QCryptographicHash::hash(data, QCryptographicHash::Md5);
         });
         Bench::report("md5 " + std::to_string(data.size()) + " bytes x" + std::to_string(loops), ours, base,
-                      "ms", "<= 1.5x");
+            "ms", "<= 1.5x");
     }
 }
 

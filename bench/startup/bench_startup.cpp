@@ -12,7 +12,7 @@
 static double oneStart(const char* mode)
 {
     QProcess p;
-    p.start(QString::fromUtf8(STARTUP_CHILD), {QString::fromLatin1(mode)});
+    p.start(QString::fromUtf8(STARTUP_CHILD), { QString::fromLatin1(mode) });
     if (!p.waitForFinished(60000))
         return -1;
     return p.readAllStandardOutput().trimmed().split('\n').last().toDouble();
@@ -32,6 +32,6 @@ int main(int argc, char** argv)
     std::sort(ours.begin(), ours.end());
     std::sort(bare.begin(), bare.end());
     Bench::report("startup_to_first_frame", ours[runs / 2], bare[runs / 2], "ms",
-                  "ours / bare, lower is better; the shell scene, fonts and timers cost the difference");
+        "ours / bare, lower is better; the shell scene, fonts and timers cost the difference");
     return 0;
 }

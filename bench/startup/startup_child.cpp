@@ -48,9 +48,9 @@ int main(int argc, char** argv)
     g_t0 = std::chrono::steady_clock::now();
     const bool ours = argc > 1 && std::strcmp(argv[1], "ours") == 0;
     if (ours) {
-        _Main_CallBacks cb{};
+        _Main_CallBacks cb {};
         cb.start = onStart;
-        char* args[] = {argv[0], nullptr};
+        char* args[] = { argv[0], nullptr };
         View_MainThreadLoop(1, args, &cb);
     } else {
         // the same multisampled surface the panel asks for, so only the start-up work differs
@@ -68,7 +68,7 @@ int main(int argc, char** argv)
             }
         });
         auto* root = new QQuickItem;
-        root->setSize({1024, 600});
+        root->setSize({ 1024, 600 });
         root->setParentItem(view.contentItem());
         view.resize(1024, 600);
         view.show();

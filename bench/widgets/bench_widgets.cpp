@@ -45,18 +45,19 @@ void frame(QQuickView* view)
 
 Rect boxOf(int i)
 {
-    return Rect{(i % 20) * 40, (i / 20) * 9, 38, 9};
+    return Rect { (i % 20) * 40, (i / 20) * 9, 38, 9 };
 }
 
 /** The baseline's SVG: the same symbol, written plainly. */
 std::string plainSvg(const qrcodegen::QrCode& qr)
 {
     const int n = qr.getSize() + 2;
-    std::string s = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!DOCTYPE svg PUBLIC \"-//W3C//DTD SVG 1.1//EN\" "
-                    "\"http://www.w3.org/Graphics/SVG/1.1/DTD/svg11.dtd\">\n<svg xmlns=\"http://www.w3.org/2000/svg\" "
-                    "version=\"1.1\" viewBox=\"0 0 "
-                    + std::to_string(n) + " " + std::to_string(n) + "\" stroke=\"none\">\n\t<rect width=\""
-                    + std::to_string(n) + "\" height=\"" + std::to_string(n) + "\" fill=\"#FFFFFF\"/>\n\t<path d=\"";
+    std::string s
+        = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!DOCTYPE svg PUBLIC \"-//W3C//DTD SVG 1.1//EN\" "
+          "\"http://www.w3.org/Graphics/SVG/1.1/DTD/svg11.dtd\">\n<svg xmlns=\"http://www.w3.org/2000/svg\" "
+          "version=\"1.1\" viewBox=\"0 0 "
+        + std::to_string(n) + " " + std::to_string(n) + "\" stroke=\"none\">\n\t<rect width=\""
+        + std::to_string(n) + "\" height=\"" + std::to_string(n) + "\" fill=\"#FFFFFF\"/>\n\t<path d=\"";
     for (int y = 0; y < qr.getSize(); ++y)
         for (int x = 0; x < qr.getSize(); ++x)
             if (qr.getModule(x, y)) {
@@ -81,10 +82,10 @@ int main(int argc, char** argv)
     if (!panel.start(QSize(800, 480)))
         return 1;
     const unsigned A = PanelFixture::wid(1, 1);
-    panel.switchWindow(A, Rect{0, 0, 800, 480}, 0xFFFFFFFFu);
+    panel.switchWindow(A, Rect { 0, 0, 800, 480 }, 0xFFFFFFFFu);
     QQuickItem* window = ViewManage::getInstance()->windowManage()->getWindow(A);
     QQmlEngine* engine = ViewManage::getInstance()->getQmlEngine();
-    const Font font{nullptr, 8, 400, 0, 0, 0, 0, 0xFF202020u, QGUI_ALIGN_LEFT};
+    const Font font { nullptr, 8, 400, 0, 0, 0, 0, 0xFF202020u, QGUI_ALIGN_LEFT };
     QFont qfont;
     qfont.setPixelSize(8);
 
@@ -93,7 +94,7 @@ int main(int argc, char** argv)
     std::list<unsigned> ids;
     auto createOurs = [&] {
         for (int i = 0; i < kCount; ++i) {
-            const View_Text rec{0, boxOf(i), nextId, "Value 0", &font, nullptr};
+            const View_Text rec { 0, boxOf(i), nextId, "Value 0", &font, nullptr };
             View_CreateText(&rec, A);
             ids.push_back(nextId++);
         }
@@ -192,13 +193,13 @@ int main(int argc, char** argv)
     dropPlain();
 
     // ---- QR code
-    const View_QRCode qrRec{0, Rect{100, 100, 200, 200}, 90000, 1, 0xFF000000u, 0xFFFFFFFFu};
+    const View_QRCode qrRec { 0, Rect { 100, 100, 200, 200 }, 90000, 1, 0xFF000000u, 0xFFFFFFFFu };
     View_CreateQRCode(&qrRec, A);
     std::string content100;
     for (int i = 0; content100.size() < 100; ++i)
         content100 += "line-7/pump-" + std::to_string(i) + ";";
     content100.resize(100);
-    std::string contents[2] = {content100, content100};
+    std::string contents[2] = { content100, content100 };
     contents[1][99] = '#';
     int q = 0;
     ours = Bench::medianMs(31, [&] { View_UpdateQRCodeContent(90000, contents[q ^= 1].c_str()); });
@@ -206,7 +207,8 @@ int main(int argc, char** argv)
     if (!code || code->status() != QQuickImageBase::Ready)
         Bench::note("QR picture not loaded synchronously: figure incomplete", 1, "");
     base = Bench::medianMs(31, [&] {
-        const auto qr = qrcodegen::QrCode::encodeText(contents[q ^= 1].c_str(), qrcodegen::QrCode::Ecc::MEDIUM);
+        const auto qr
+            = qrcodegen::QrCode::encodeText(contents[q ^= 1].c_str(), qrcodegen::QrCode::Ecc::MEDIUM);
         QSvgRenderer renderer(QByteArray::fromStdString(plainSvg(qr)));
         QImage image(200, 200, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::transparent);

@@ -3,8 +3,8 @@
 #include "demologic.h"
 
 #include <csignal>
-#include <cstdlib>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <unistd.h>
 
@@ -30,7 +30,7 @@ int g_batch = 41;
 
 Font font(int px, unsigned color, int weight = 400)
 {
-    Font f{};
+    Font f {};
     f.pixelSize = px;
     f.color = color;
     f.weight = weight;
@@ -39,16 +39,16 @@ Font font(int px, unsigned color, int weight = 400)
 
 void text(unsigned id, Rect r, const char* s, const Font& f, unsigned align)
 {
-    View_TextLayout layout{align, 8, 0};
-    View_Text t{0, r, id, s, &f, &layout};
+    View_TextLayout layout { align, 8, 0 };
+    View_Text t { 0, r, id, s, &f, &layout };
     View_CreateText(&t, kWindow1);
 }
 
 void button(unsigned id, Rect r, const char* caption, const char* image, unsigned color)
 {
     const Font f = font(22, color, 600);
-    View_TextLayout layout{QGUI_ALIGN_HCENTER | QGUI_ALIGN_VCENTER, 0, 0};
-    View_ImageText b{0, r, id, image, caption, &f, &layout};
+    View_TextLayout layout { QGUI_ALIGN_HCENTER | QGUI_ALIGN_VCENTER, 0, 0 };
+    View_ImageText b { 0, r, id, image, caption, &f, &layout };
     View_CreateButton(&b, kWindow1);
 }
 
@@ -59,15 +59,20 @@ void writeButtonPicture()
     if (FILE* f = std::fopen("demo-project/tar/image/button.svg", "w")) {
         std::fputs("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 160 56'>"
                    "<defs><linearGradient id='g' x1='0' y1='0' x2='0' y2='1'>"
-                   "<stop offset='0' stop-color='#5fb65f'/><stop offset='1' stop-color='#2e7d32'/></linearGradient></defs>"
-                   "<rect x='1' y='1' width='158' height='54' rx='10' fill='url(#g)' stroke='#1b5e20' stroke-width='2'/>"
-                   "</svg>", f);
+                   "<stop offset='0' stop-color='#5fb65f'/><stop offset='1' "
+                   "stop-color='#2e7d32'/></linearGradient></defs>"
+                   "<rect x='1' y='1' width='158' height='54' rx='10' fill='url(#g)' stroke='#1b5e20' "
+                   "stroke-width='2'/>"
+                   "</svg>",
+            f);
         std::fclose(f);
     }
     if (FILE* f = std::fopen("demo-project/tar/image/face.svg", "w")) {
         std::fputs("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 160 56'>"
-                   "<rect x='1' y='1' width='158' height='54' rx='10' fill='#3b5b7e' stroke='#9fb6cf' stroke-width='2'/>"
-                   "</svg>", f);
+                   "<rect x='1' y='1' width='158' height='54' rx='10' fill='#3b5b7e' stroke='#9fb6cf' "
+                   "stroke-width='2'/>"
+                   "</svg>",
+            f);
         std::fclose(f);
     }
 }
@@ -76,26 +81,28 @@ void buildWindow1()
 {
     if (g_window1Built) {
         // the widgets stayed cached while the window was closed: bring them back
-        for (unsigned id : {kTitle, kCarousel, kClock, kStart, kGrey, kDisabled, kPicture, kQr})
+        for (unsigned id : { kTitle, kCarousel, kClock, kStart, kGrey, kDisabled, kPicture, kQr })
             View_SetWidgetParent(id, kWindow1);
         return;
     }
     g_window1Built = true;
-    text(kTitle, Rect{24, 20, 560, 48}, "Line 3 \xe2\x80\x93 filling station", font(34, 0xFFFFFFFFu, 700),
-         QGUI_ALIGN_LEFT | QGUI_ALIGN_VCENTER);
-    text(kClock, Rect{24, 70, 560, 32}, "Pressure 4.2 bar \xc2\xb7 \xe5\x8e\x8b\xe5\x8a\x9b\xe6\xad\xa3\xe5\xb8\xb8",
-         font(22, 0xFFCFD8E3u), QGUI_ALIGN_LEFT | QGUI_ALIGN_VCENTER);
-    text(kCarousel, Rect{24, 540, 976, 40},
-         "Notice: shift change at 14:00 \xe2\x80\x94 check the filler nozzles before restarting line 3 \xe2\x80\x94 ",
-         font(24, 0xFFFFD54Fu), QGUI_ALIGN_LEFT | QGUI_ALIGN_VCENTER);
+    text(kTitle, Rect { 24, 20, 560, 48 }, "Line 3 \xe2\x80\x93 filling station", font(34, 0xFFFFFFFFu, 700),
+        QGUI_ALIGN_LEFT | QGUI_ALIGN_VCENTER);
+    text(kClock, Rect { 24, 70, 560, 32 },
+        "Pressure 4.2 bar \xc2\xb7 \xe5\x8e\x8b\xe5\x8a\x9b\xe6\xad\xa3\xe5\xb8\xb8", font(22, 0xFFCFD8E3u),
+        QGUI_ALIGN_LEFT | QGUI_ALIGN_VCENTER);
+    text(kCarousel, Rect { 24, 540, 976, 40 },
+        "Notice: shift change at 14:00 \xe2\x80\x94 check the filler nozzles before restarting line 3 "
+        "\xe2\x80\x94 ",
+        font(24, 0xFFFFD54Fu), QGUI_ALIGN_LEFT | QGUI_ALIGN_VCENTER);
     writeButtonPicture();
-    button(kStart, Rect{24, 140, 180, 64}, "Start", "face.svg", 0xFFFFFFFFu);
-    button(kGrey, Rect{224, 140, 180, 64}, "Greyed", "face.svg", 0xFFFFFFFFu);
+    button(kStart, Rect { 24, 140, 180, 64 }, "Start", "face.svg", 0xFFFFFFFFu);
+    button(kGrey, Rect { 224, 140, 180, 64 }, "Greyed", "face.svg", 0xFFFFFFFFu);
     View_SetDisableFlag(kGrey, 4);
-    button(kDisabled, Rect{24, 224, 180, 64}, "Disabled", "face.svg", 0xFFFFFFFFu);
+    button(kDisabled, Rect { 24, 224, 180, 64 }, "Disabled", "face.svg", 0xFFFFFFFFu);
     View_SetDisableFlag(kDisabled, 2);
-    button(kPicture, Rect{224, 224, 180, 64}, "Picture", "button.svg", 0xFFFFFFFFu);
-    View_QRCode qr{0, Rect{760, 140, 220, 220}, kQr, 1, 0xFF1C2733u, 0xFFFFFFFFu};
+    button(kPicture, Rect { 224, 224, 180, 64 }, "Picture", "button.svg", 0xFFFFFFFFu);
+    View_QRCode qr { 0, Rect { 760, 140, 220, 220 }, kQr, 1, 0xFF1C2733u, 0xFFFFFFFFu };
     View_CreateQRCode(&qr, kWindow1);
     View_UpdateQRCodeContent(kQr, "batch 0041 / line 3");
 }
@@ -104,19 +111,19 @@ void showWindow(unsigned windowId)
 {
     if (g_current && g_current != windowId)
         View_CloseWindow(g_current); // its widgets stay cached for the next visit
-    View_Window w{};
+    View_Window w {};
     w.id = windowId;
-    w.rect = Rect{0, 0, 1024, 600};
-    w.background = windowId == kWindow1 ? Brush{BRUSH_LINEAR, 0xFF2B3A4Au, 0xFF4F6D8Au, 90}
-                                        : Brush{BRUSH_SOLID, 0xFFECEFF3u, 0, 0};
+    w.rect = Rect { 0, 0, 1024, 600 };
+    w.background = windowId == kWindow1 ? Brush { BRUSH_LINEAR, 0xFF2B3A4Au, 0xFF4F6D8Au, 90 }
+                                        : Brush { BRUSH_SOLID, 0xFFECEFF3u, 0, 0 };
     View_SwitchWindow(&w);
     g_current = windowId;
     if (windowId == kWindow1)
         buildWindow1();
     if (windowId == kWindow2) {
         // a camera view is not available on this panel: its placeholder shows where it belongs
-        View_CameraIP cam{};
-        cam.rect = Rect{620, 60, 360, 240};
+        View_CameraIP cam {};
+        cam.rect = Rect { 620, 60, 360, 240 };
         cam.id = 900;
         View_CreateCameraIP(&cam, kWindow2);
     }
@@ -124,13 +131,13 @@ void showWindow(unsigned windowId)
 
 void openPopup()
 {
-    View_Window w{};
+    View_Window w {};
     w.id = kPopup;
-    w.rect = Rect{262, 150, 500, 300};
-    w.background = Brush{BRUSH_SOLID, 0xFFFFFFFFu, 0, 0};
-    w.border = Pen{0xFF2B3A4Au, 2, PEN_SOLID};
+    w.rect = Rect { 262, 150, 500, 300 };
+    w.background = Brush { BRUSH_SOLID, 0xFFFFFFFFu, 0, 0 };
+    w.border = Pen { 0xFF2B3A4Au, 2, PEN_SOLID };
     w.title = "Settings";
-    View_Popup p{};
+    View_Popup p {};
     p.z = 10;
     p.modal = 1;
     p.movable = 1;
@@ -150,17 +157,28 @@ void closePopup()
 const char* eventName(int code)
 {
     switch (code) {
-    case EVT_PRESS: return "panel press";
-    case EVT_WIDGET_PRESS: return "widget pressed";
-    case EVT_WIDGET_RELEASE: return "widget released";
-    case EVT_POPUP_CLOSE: return "popup close button";
-    case EVT_POPUP_TITLE_PRESS: return "popup title pressed";
-    case EVT_KEY_PRESS: return "key pressed";
-    case EVT_KEY_RELEASE: return "key released";
-    case EVT_VKB_ENTER: return "keyboard entry";
-    case EVT_VKB_HIDE: return "keyboard hidden";
-    case EVT_SCREENSHOT: return "screenshot";
-    default: return "event";
+    case EVT_PRESS:
+        return "panel press";
+    case EVT_WIDGET_PRESS:
+        return "widget pressed";
+    case EVT_WIDGET_RELEASE:
+        return "widget released";
+    case EVT_POPUP_CLOSE:
+        return "popup close button";
+    case EVT_POPUP_TITLE_PRESS:
+        return "popup title pressed";
+    case EVT_KEY_PRESS:
+        return "key pressed";
+    case EVT_KEY_RELEASE:
+        return "key released";
+    case EVT_VKB_ENTER:
+        return "keyboard entry";
+    case EVT_VKB_HIDE:
+        return "keyboard hidden";
+    case EVT_SCREENSHOT:
+        return "screenshot";
+    default:
+        return "event";
     }
 }
 
@@ -188,8 +206,9 @@ ErrRet onEvent(unsigned id, int code, void* data)
         // the button keeps no state: the logic layer writes what it shows
         const bool pressed = code == EVT_WIDGET_PRESS;
         const Font f = font(22, pressed ? 0xFFFFEB3Bu : 0xFFFFFFFFu, 600);
-        View_TextLayout layout{QGUI_ALIGN_HCENTER | QGUI_ALIGN_VCENTER, 0, 0};
-        View_ImageText b{0, Rect{24, 140, 180, 64}, kStart, nullptr, pressed ? "Running" : "Start", &f, &layout};
+        View_TextLayout layout { QGUI_ALIGN_HCENTER | QGUI_ALIGN_VCENTER, 0, 0 };
+        View_ImageText b { 0, Rect { 24, 140, 180, 64 }, kStart, nullptr, pressed ? "Running" : "Start", &f,
+            &layout };
         View_ChangeButtonParam(kStart, &b); // always -1 by design: not a failure
     }
     return 0;
@@ -200,7 +219,7 @@ void screenshot(const char* step)
     if (g_settings.screenshotDir.empty())
         return;
     const std::string path = g_settings.screenshotDir + "/panel-" + step + ".png";
-    View_ScreenShotData data{};
+    View_ScreenShotData data {};
     data.mode = SCREENSHOT_GRAB;
     data.windowId = 0; // the whole panel
     data.path = path.c_str();
@@ -209,8 +228,9 @@ void screenshot(const char* step)
 
 int onDeviceInit(unsigned deviceNo, const char*, const char*, const unsigned* words)
 {
-    std::printf("demo: device %u initialising, option words %u,%u,%u\n", deviceNo, words[0], words[1], words[2]);
-    View_CreateDesktop(Size{1024, 600}, kDesk);
+    std::printf(
+        "demo: device %u initialising, option words %u,%u,%u\n", deviceNo, words[0], words[1], words[2]);
+    View_CreateDesktop(Size { 1024, 600 }, kDesk);
     showWindow(kWindow1);
     return 0;
 }
@@ -232,24 +252,52 @@ void every100ms(int)
     ++g_ticks100;
     // the demo's script, one step every half second or so
     switch (g_ticks100) {
-    case 10: screenshot("1-window1"); break;
-    case 15: showWindow(kWindow2); break;
-    case 20: screenshot("2-window2"); break;
-    case 25: openPopup(); break;
-    case 30: screenshot("3-popup"); break;
-    case 40: closePopup(); break; // nobody pressed its close button: close it anyway
-    case 42: View_PopupMsg("Batch 42 finished: 1,250 parts", 4); break;
-    case 45: screenshot("4-message"); break;
-    case 48: View_SetLight(40); break; // dimmed: the next touch only wakes the panel
-    case 50: screenshot("5-dimmed"); break;
-    case 55: View_SetLight(100); break;
+    case 10:
+        screenshot("1-window1");
+        break;
+    case 15:
+        showWindow(kWindow2);
+        break;
+    case 20:
+        screenshot("2-window2");
+        break;
+    case 25:
+        openPopup();
+        break;
+    case 30:
+        screenshot("3-popup");
+        break;
+    case 40:
+        closePopup();
+        break; // nobody pressed its close button: close it anyway
+    case 42:
+        View_PopupMsg("Batch 42 finished: 1,250 parts", 4);
+        break;
+    case 45:
+        screenshot("4-message");
+        break;
+    case 48:
+        View_SetLight(40);
+        break; // dimmed: the next touch only wakes the panel
+    case 50:
+        screenshot("5-dimmed");
+        break;
+    case 55:
+        View_SetLight(100);
+        break;
     case 8: { // the operator presses Start (simulated when nobody is at the panel)
         ErrRet r = onEvent(kStart, EVT_WIDGET_PRESS, nullptr);
         (void)r;
         break;
     }
-    case 9: screenshot("0-texts-buttons"); break;
-    case 12: { ErrRet r = onEvent(kStart, EVT_WIDGET_RELEASE, nullptr); (void)r; break; }
+    case 9:
+        screenshot("0-texts-buttons");
+        break;
+    case 12: {
+        ErrRet r = onEvent(kStart, EVT_WIDGET_RELEASE, nullptr);
+        (void)r;
+        break;
+    }
     default:
         if (g_ticks100 % 30 == 0) { // a new batch every 3 s: the QR code follows
             char qr[64];
@@ -272,7 +320,7 @@ void configure(const Settings& s)
 
 _Main_CallBacks callBacks()
 {
-    _Main_CallBacks cb{};
+    _Main_CallBacks cb {};
     cb.event = onEvent;
     cb.deviceInit = onDeviceInit;
     cb.start = onStart;

@@ -10,7 +10,7 @@ namespace DemoLogic {
 
 struct Settings {
     std::string screenshotDir; ///< empty: no screenshots
-    int quitAfterMs = 0;       ///< 0: run until the window closes
+    int quitAfterMs = 0; ///< 0: run until the window closes
 };
 
 void configure(const Settings& s);

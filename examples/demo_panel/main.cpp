@@ -13,7 +13,7 @@ int main(int argc, char** argv)
     DemoLogic::Settings settings;
     bool headless = false;
     bool hasProject = false;
-    std::vector<char*> panelArgs{argv[0]};
+    std::vector<char*> panelArgs { argv[0] };
     for (int i = 1; i < argc; ++i) {
         const std::string a = argv[i];
         if (a == "--headless") {

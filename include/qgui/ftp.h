@@ -24,10 +24,12 @@ QGUI_EXPORT int Ftp_CheckState(unsigned char client);
 /** Disconnects a client; with `wait` the call returns only when the connection is closed. */
 QGUI_EXPORT int Ftp_DisConnect(unsigned char client, bool wait);
 
-/** Uploads the local file to the remote path; with `overwrite` an existing remote file is replaced. Ends with EVT_FTP_RESULT. */
+/** Uploads the local file to the remote path; with `overwrite` an existing remote file is replaced. Ends with
+ * EVT_FTP_RESULT. */
 QGUI_EXPORT int Ftp_Put(unsigned char client, const char* localPath, const char* remotePath, bool overwrite);
 
-/** Downloads the remote file to the local path; with `overwrite` an existing local file is replaced. Ends with EVT_FTP_RESULT. */
+/** Downloads the remote file to the local path; with `overwrite` an existing local file is replaced. Ends
+ * with EVT_FTP_RESULT. */
 QGUI_EXPORT int Ftp_Pull(unsigned char client, const char* localPath, const char* remotePath, bool overwrite);
 
 /** Disconnects and forgets a client. */

@@ -12,19 +12,19 @@
 
 /** String encodings of View_CvtEncode and View_CvtEncode2. */
 enum StrEncode : int {
-    STR_ENCODE_GB2312 = 0,  /**< "GB2312" */
+    STR_ENCODE_GB2312 = 0, /**< "GB2312" */
     STR_ENCODE_UTF16LE = 1, /**< "UTF-16LE" */
-    STR_ENCODE_UTF8 = 2,    /**< "UTF-8" */
-    STR_ENCODE_LATIN1 = 3   /**< "ISO-8859-1" */
+    STR_ENCODE_UTF8 = 2, /**< "UTF-8" */
+    STR_ENCODE_LATIN1 = 3 /**< "ISO-8859-1" */
 };
 
 /** Storage numbers of getStorePath. */
 enum StoreNo : unsigned {
-    STORE_TMP = 0,  /**< "disk/tmp/", emptied at every start */
-    STORE_HMI = 1,  /**< "disk/hmi/" */
-    STORE_SD = 2,   /**< "disk/sd/" */
+    STORE_TMP = 0, /**< "disk/tmp/", emptied at every start */
+    STORE_HMI = 1, /**< "disk/hmi/" */
+    STORE_SD = 2, /**< "disk/sd/" */
     STORE_USB1 = 3, /**< "disk/usb1/" */
-    STORE_USB2 = 4  /**< "disk/usb2/" */
+    STORE_USB2 = 4 /**< "disk/usb2/" */
 };
 
 extern "C" {

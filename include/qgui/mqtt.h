@@ -25,28 +25,31 @@ namespace MQTT {
 /** Client states (event 1793, Mqtt_CheckState). */
 enum MqttClientState {
     MQTT_STATE_DISCONNECTED = 0, /**< not connected (also after a lost connection) */
-    MQTT_STATE_CONNECTING = 1,   /**< Mqtt_Connect or Mqtt_ReConnect is waiting for the broker's answer */
-    MQTT_STATE_CONNECTED = 2     /**< connected; messages can be published */
+    MQTT_STATE_CONNECTING = 1, /**< Mqtt_Connect or Mqtt_ReConnect is waiting for the broker's answer */
+    MQTT_STATE_CONNECTED = 2 /**< connected; messages can be published */
 };
 
 /** Client errors (event 1794). Values 1 to 5 are the broker's refusal codes. */
 enum MqttError {
-    MQTT_ERR_NONE = 0,                     /**< no error; reported again after an error once a connect succeeds */
+    MQTT_ERR_NONE = 0, /**< no error; reported again after an error once a connect succeeds */
     MQTT_ERR_INVALID_PROTOCOL_VERSION = 1, /**< the broker or the library refused the protocol version */
-    MQTT_ERR_ID_REJECTED = 2,              /**< the broker refused the client id */
-    MQTT_ERR_SERVER_UNAVAILABLE = 3,       /**< the broker is not available for service */
+    MQTT_ERR_ID_REJECTED = 2, /**< the broker refused the client id */
+    MQTT_ERR_SERVER_UNAVAILABLE = 3, /**< the broker is not available for service */
     MQTT_ERR_BAD_USERNAME_OR_PASSWORD = 4, /**< the broker refused the user name or password */
-    MQTT_ERR_NOT_AUTHORIZED = 5,           /**< the broker refused the client (also wrong credentials on some brokers) */
-    MQTT_ERR_TRANSPORT_INVALID = 256,      /**< no network connection: broker unreachable, TLS refused, connection lost */
-    MQTT_ERR_PROTOCOL_VIOLATION = 257,     /**< the broker broke the protocol */
-    MQTT_ERR_UNKNOWN = 258,                /**< any other failure (for example an invalid host name) */
-    MQTT_ERR_MQTT5_SPECIFIC = 259          /**< an MQTT 5 reason code without a value above */
+    MQTT_ERR_NOT_AUTHORIZED
+    = 5, /**< the broker refused the client (also wrong credentials on some brokers) */
+    MQTT_ERR_TRANSPORT_INVALID
+    = 256, /**< no network connection: broker unreachable, TLS refused, connection lost */
+    MQTT_ERR_PROTOCOL_VIOLATION = 257, /**< the broker broke the protocol */
+    MQTT_ERR_UNKNOWN = 258, /**< any other failure (for example an invalid host name) */
+    MQTT_ERR_MQTT5_SPECIFIC = 259 /**< an MQTT 5 reason code without a value above */
 };
 
 /** Bits of MqttConnectPrm::flags. */
 enum MqttConnectFlags {
-    MQTT_FLAG_SHORT_CONNECTION = 0x01, /**< set: short connection (keep-alive as given, no automatic reconnect); clear: long connection */
-    MQTT_FLAG_SSL = 0x02               /**< set: "ssl://" with the system's CA certificates and host name check */
+    MQTT_FLAG_SHORT_CONNECTION = 0x01, /**< set: short connection (keep-alive as given, no automatic
+                                          reconnect); clear: long connection */
+    MQTT_FLAG_SSL = 0x02 /**< set: "ssl://" with the system's CA certificates and host name check */
 };
 
 /** Protocol versions (MqttConnectPrm::version, Mqtt_SetVersion). */
@@ -63,11 +66,11 @@ struct MqttConnectPrm {
     const char* userName; /**< user name; empty: none */
     const char* password; /**< password; empty: none */
     const char* clientId; /**< client id; empty keeps the client's current id */
-    U8 flags;             /**< MqttConnectFlags bits */
-    U16 port;             /**< broker port */
-    short version;        /**< MqttProtocolVersion; other values fail with MQTT_ERR_INVALID_PROTOCOL_VERSION */
-    U16 keepAlive;        /**< keep-alive interval in seconds; 0 on a long connection means 100 */
-    U16 reserved;         /**< passed on, not used yet */
+    U8 flags; /**< MqttConnectFlags bits */
+    U16 port; /**< broker port */
+    short version; /**< MqttProtocolVersion; other values fail with MQTT_ERR_INVALID_PROTOCOL_VERSION */
+    U16 keepAlive; /**< keep-alive interval in seconds; 0 on a long connection means 100 */
+    U16 reserved; /**< passed on, not used yet */
 };
 
 /** Creates a client under the lowest free handle from 1 upward; returns the handle. */
@@ -92,8 +95,8 @@ QGUI_EXPORT void Mqtt_SetVersion(unsigned handle, int version);
 
 /** Publishes one message (a null payload is an empty message). Failures (unknown handle,
  *  not connected, null topic, \a qos above 2) are logged as "publish msg fail: topic:...". */
-QGUI_EXPORT void Mqtt_Publish(unsigned handle, char const* topic, char const* payload,
-                              unsigned char qos, bool retain);
+QGUI_EXPORT void Mqtt_Publish(
+    unsigned handle, char const* topic, char const* payload, unsigned char qos, bool retain);
 
 /** The client's id (a random "qgui-..." id until one is given); empty for an unknown handle. */
 QGUI_EXPORT std::string Mqtt_GetClientId(unsigned handle);

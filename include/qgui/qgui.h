@@ -15,22 +15,22 @@
 #ifndef QGUI_QGUI_H
 #define QGUI_QGUI_H
 
-#include "types.h"
-#include "ids.h"
 #include "events.h"
-#include "records_window.h"
+#include "ftp.h"
+#include "ids.h"
+#include "mqtt.h"
+#include "records_curve.h"
 #include "records_display.h"
 #include "records_input.h"
 #include "records_list.h"
 #include "records_menu.h"
-#include "records_curve.h"
 #include "records_misc.h"
-#include "view.h"
+#include "records_window.h"
 #include "scale.h"
-#include "ftp.h"
-#include "mqtt.h"
+#include "types.h"
+#include "view.h"
 #include "xdatabase.h"
-#include "xmd5.h"
 #include "xdzip.h"
+#include "xmd5.h"
 
 #endif /* QGUI_QGUI_H */

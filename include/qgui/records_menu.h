@@ -13,27 +13,28 @@
 
 /** Bits of View_Menu::flags. */
 enum MenuFlag : U32 {
-    MENU_TREE = 0x1,    /**< the content is a tree (View_ChangeMenuTreeContent) instead of a flat list */
-    MENU_IN_PLACE = 0x2 /**< only the content view is built, in the window; without it a drop-down box with a pop-up */
+    MENU_TREE = 0x1, /**< the content is a tree (View_ChangeMenuTreeContent) instead of a flat list */
+    MENU_IN_PLACE
+    = 0x2 /**< only the content view is built, in the window; without it a drop-down box with a pop-up */
 };
 
 /** Common part of every menu kind. */
 struct View_Menu {
-    U32 header;                    /**< opacity word */
-    Rect rect;                     /**< drop-down: the box; in place: the content view */
-    U32 id;                        /**< widget id */
-    U32 flags;                     /**< MenuFlag bits */
-    const Font* font;              /**< font and colour of the box text and of the entries */
+    U32 header; /**< opacity word */
+    Rect rect; /**< drop-down: the box; in place: the content view */
+    U32 id; /**< widget id */
+    U32 flags; /**< MenuFlag bits */
+    const Font* font; /**< font and colour of the box text and of the entries */
     const View_TextLayout* layout; /**< alignment of the box's display text */
-    const char* bgImage;           /**< background image path of the content view; null or "" for none */
-    U32 boxColor;                  /**< drop-down: box background colour word */
-    U32 backColor;                 /**< content view background colour word */
-    U32 highlightColor;            /**< colour word of the current entry */
-    U32 frameColor;                /**< colour word of the borders */
-    int borderWidth;               /**< border width, pixels */
-    int popHeight;                 /**< drop-down: pop-up height, pixels; <= 0 fits the entries */
-    int rowHeight;                 /**< entry height, pixels; <= 0 selects the font's line height */
-    int indent;                    /**< tree: indentation per level, pixels */
+    const char* bgImage; /**< background image path of the content view; null or "" for none */
+    U32 boxColor; /**< drop-down: box background colour word */
+    U32 backColor; /**< content view background colour word */
+    U32 highlightColor; /**< colour word of the current entry */
+    U32 frameColor; /**< colour word of the borders */
+    int borderWidth; /**< border width, pixels */
+    int popHeight; /**< drop-down: pop-up height, pixels; <= 0 fits the entries */
+    int rowHeight; /**< entry height, pixels; <= 0 selects the font's line height */
+    int indent; /**< tree: indentation per level, pixels */
 };
 
 /** Menu of alarm levels (View_CreateMenuAlarmLevel). */
@@ -71,14 +72,16 @@ struct View_MenuVar {
     View_Menu menu; /**< the common part */
 };
 
-/** One node of a tree menu's content (View_ChangeMenuTreeContent passes the root, whose text is not shown). */
+/** One node of a tree menu's content (View_ChangeMenuTreeContent passes the root, whose text is not shown).
+ */
 struct View_TreeNode {
-    const char* text;              /**< entry text */
-    const char* image;             /**< icon path before the text; null or "" for none */
-    int index;                     /**< number sent with EVT_WIDGET_PRESS / RELEASE for this entry and used by View_ChangeMenuTreeSelect */
-    U8 expanded;                   /**< non-zero: the children are shown initially */
+    const char* text; /**< entry text */
+    const char* image; /**< icon path before the text; null or "" for none */
+    int index; /**< number sent with EVT_WIDGET_PRESS / RELEASE for this entry and used by
+                  View_ChangeMenuTreeSelect */
+    U8 expanded; /**< non-zero: the children are shown initially */
     const View_TreeNode* children; /**< the child nodes, in order */
-    U32 childCount;                /**< number of child nodes */
+    U32 childCount; /**< number of child nodes */
 };
 
 #endif /* QGUI_RECORDS_MENU_H */

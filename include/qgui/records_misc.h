@@ -14,95 +14,96 @@
 /** Page display of the PDF view (View_PdfSetDisplayMode). */
 enum PdfDisplayMode : int {
     PDF_SINGLE_PAGE = 0, /**< one page at a time */
-    PDF_CONTINUOUS = 1   /**< pages one below the other, scrolled */
+    PDF_CONTINUOUS = 1 /**< pages one below the other, scrolled */
 };
 
 /** PDF view (View_CreatePdf). */
 struct View_Pdf {
-    U32 header;       /**< opacity word */
-    Rect rect;        /**< widget box */
-    U32 id;           /**< widget id */
-    const char* path; /**< document path; null or "" shows an empty view (View_PdfUpdateFile loads one later) */
-    int displayMode;  /**< PdfDisplayMode */
-    U32 page;         /**< first page shown, counted from 0 */
-    U32 zoom;         /**< zoom in percent; 0 fits the page width */
-    U8 showToolBar;   /**< non-zero: page and zoom buttons are shown */
+    U32 header; /**< opacity word */
+    Rect rect; /**< widget box */
+    U32 id; /**< widget id */
+    const char*
+        path; /**< document path; null or "" shows an empty view (View_PdfUpdateFile loads one later) */
+    int displayMode; /**< PdfDisplayMode */
+    U32 page; /**< first page shown, counted from 0 */
+    U32 zoom; /**< zoom in percent; 0 fits the page width */
+    U8 showToolBar; /**< non-zero: page and zoom buttons are shown */
 };
 
 /** Network camera (View_CreateCameraIP). */
 struct View_CameraIP {
-    U32 header;           /**< opacity word */
-    Rect rect;            /**< widget box */
-    U32 id;               /**< widget id */
-    const char* url;      /**< stream address, for instance "rtsp://host:554/stream" */
-    const char* user;     /**< user name; null or "" for none */
+    U32 header; /**< opacity word */
+    Rect rect; /**< widget box */
+    U32 id; /**< widget id */
+    const char* url; /**< stream address, for instance "rtsp://host:554/stream" */
+    const char* user; /**< user name; null or "" for none */
     const char* password; /**< password; null or "" for none */
 };
 
 /** USB camera (View_CreateCameraUSB). */
 struct View_CameraUSB {
-    U32 header;         /**< opacity word */
-    Rect rect;          /**< widget box */
-    U32 id;             /**< widget id */
+    U32 header; /**< opacity word */
+    Rect rect; /**< widget box */
+    U32 id; /**< widget id */
     const char* device; /**< device name; null or "" selects the first camera */
-    int frameWidth;     /**< wanted capture width, pixels; <= 0 the camera's default */
-    int frameHeight;    /**< wanted capture height, pixels; <= 0 the camera's default */
+    int frameWidth; /**< wanted capture width, pixels; <= 0 the camera's default */
+    int frameHeight; /**< wanted capture height, pixels; <= 0 the camera's default */
 };
 
 /** Media player (View_CreateMediaPlayer). */
 struct View_MediaPlayer {
-    U32 header;       /**< opacity word */
-    Rect rect;        /**< widget box */
-    U32 id;           /**< widget id */
+    U32 header; /**< opacity word */
+    Rect rect; /**< widget box */
+    U32 id; /**< widget id */
     const char* path; /**< media file or address; null or "" for none */
-    int volume;       /**< 0..100 */
-    U8 autoPlay;      /**< non-zero: starts playing at creation */
-    U8 loop;          /**< non-zero: starts again at the end */
-    U8 showControls;  /**< non-zero: play, pause and position controls are shown */
+    int volume; /**< 0..100 */
+    U8 autoPlay; /**< non-zero: starts playing at creation */
+    U8 loop; /**< non-zero: starts again at the end */
+    U8 showControls; /**< non-zero: play, pause and position controls are shown */
 };
 
 /** Remote-desktop client (View_CreateVncClient); reports EVT_VNC_STATE. */
 struct View_VncClient {
-    U32 header;           /**< opacity word */
-    Rect rect;            /**< widget box */
-    U32 id;               /**< widget id */
-    const char* host;     /**< server address; null or "" connects only on View_VncConnect */
+    U32 header; /**< opacity word */
+    Rect rect; /**< widget box */
+    U32 id; /**< widget id */
+    const char* host; /**< server address; null or "" connects only on View_VncConnect */
     const char* password; /**< password; null or "" for none */
-    U16 port;             /**< server port; 0 selects 5900 */
-    U8 viewOnly;          /**< non-zero: input is not sent to the server */
-    U8 scaled;            /**< non-zero: the remote screen is scaled to the box */
+    U16 port; /**< server port; 0 selects 5900 */
+    U8 viewOnly; /**< non-zero: input is not sent to the server */
+    U8 scaled; /**< non-zero: the remote screen is scaled to the box */
 };
 
 /** Web browser (View_CreateWebBrowser). */
 struct View_WebBrowser {
-    U32 header;      /**< opacity word */
-    Rect rect;       /**< widget box */
-    U32 id;          /**< widget id */
+    U32 header; /**< opacity word */
+    Rect rect; /**< widget box */
+    U32 id; /**< widget id */
     const char* url; /**< start page; null or "" for an empty page */
-    U8 showToolBar;  /**< non-zero: address bar and navigation buttons are shown */
+    U8 showToolBar; /**< non-zero: address bar and navigation buttons are shown */
 };
 
 /** Settings of the panel's FTP server (Ftp_ConfigServer). */
 struct FtpServerPrm {
-    U8 enable;            /**< non-zero runs the server, 0 stops it */
-    U8 anonymous;         /**< non-zero: logins without a password are accepted */
-    U8 readOnly;          /**< non-zero: clients may not write */
-    U16 port;             /**< listening port; 0 selects 21 */
-    U32 maxClients;       /**< most simultaneous clients; 0 for no limit */
+    U8 enable; /**< non-zero runs the server, 0 stops it */
+    U8 anonymous; /**< non-zero: logins without a password are accepted */
+    U8 readOnly; /**< non-zero: clients may not write */
+    U16 port; /**< listening port; 0 selects 21 */
+    U32 maxClients; /**< most simultaneous clients; 0 for no limit */
     const char* rootPath; /**< folder served, UTF-8 */
-    const char* user;     /**< user name of authenticated logins */
+    const char* user; /**< user name of authenticated logins */
     const char* password; /**< password of authenticated logins */
 };
 
 /** A connection of the FTP client (Ftp_Connect). */
 struct FtpClientPrm {
-    U8 client;            /**< client number, the key of the other Ftp_ calls and the id of its events */
-    U8 passive;           /**< non-zero: passive mode */
-    U16 port;             /**< server port; 0 selects 21 */
-    const char* host;     /**< server address */
-    const char* user;     /**< user name; null or "" logs in anonymously */
+    U8 client; /**< client number, the key of the other Ftp_ calls and the id of its events */
+    U8 passive; /**< non-zero: passive mode */
+    U16 port; /**< server port; 0 selects 21 */
+    const char* host; /**< server address */
+    const char* user; /**< user name; null or "" logs in anonymously */
     const char* password; /**< password */
-    int timeoutMs;        /**< connection and transfer timeout, ms; <= 0 selects the default */
+    int timeoutMs; /**< connection and transfer timeout, ms; <= 0 selects the default */
 };
 
 #endif /* QGUI_RECORDS_MISC_H */

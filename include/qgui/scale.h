@@ -16,8 +16,7 @@
 #include "types.h"
 
 /** Range and tick counts of a scale. */
-class QGUI_EXPORT ScaleBase
-{
+class QGUI_EXPORT ScaleBase {
 public:
     virtual ~ScaleBase();
 
@@ -40,20 +39,20 @@ public:
 protected:
     ScaleBase();
 
-    double m_minimum = 0.0;  /**< value at the start of the scale */
+    double m_minimum = 0.0; /**< value at the start of the scale */
     double m_maximum = 100.0; /**< value at the end of the scale */
-    int m_majorCount = 10;   /**< major divisions */
-    int m_minorCount = 4;    /**< minor ticks between two major ticks */
+    int m_majorCount = 10; /**< major divisions */
+    int m_minorCount = 4; /**< minor ticks between two major ticks */
 };
 
 /** Circular scale of a dial: values mapped onto an arc. */
-class QGUI_EXPORT ScaleCircle : public virtual ScaleBase
-{
+class QGUI_EXPORT ScaleCircle : public virtual ScaleBase {
 public:
     ScaleCircle();
     ~ScaleCircle() override;
 
-    /** Sets the arc: angle of the minimum and sweep to the maximum, degrees, 0 at three o'clock, counter-clockwise positive. */
+    /** Sets the arc: angle of the minimum and sweep to the maximum, degrees, 0 at three o'clock,
+     * counter-clockwise positive. */
     void setAngles(double startAngle, double spanAngle);
     double startAngle() const { return m_startAngle; }
     double spanAngle() const { return m_spanAngle; }
@@ -68,18 +67,18 @@ public:
     /** Angle of a value, degrees; values outside the range are clamped to it. */
     virtual double angleOf(double value) const;
 
-    /** Value at an angle, the inverse of angleOf within the arc; angles outside the arc give the nearer end. */
+    /** Value at an angle, the inverse of angleOf within the arc; angles outside the arc give the nearer end.
+     */
     virtual double valueAt(double angle) const;
 
 protected:
     double m_startAngle = 225.0; /**< angle of the minimum */
     double m_spanAngle = -270.0; /**< sweep to the maximum (negative: clockwise) */
-    int m_decimals = 0;          /**< label decimals */
+    int m_decimals = 0; /**< label decimals */
 };
 
 /** Time scale: values are seconds since 1970-01-01 00:00:00 UTC. */
-class QGUI_EXPORT ScaleTime : public virtual ScaleBase
-{
+class QGUI_EXPORT ScaleTime : public virtual ScaleBase {
 public:
     ScaleTime();
     ~ScaleTime() override;
@@ -101,12 +100,13 @@ public:
     /** Major ticks on whole multiples of tickStep(), from the first at or after minimum to maximum. */
     std::vector<double> majorTicks() const override;
 
-    /** A readable step (1, 2, 5, 10, 15, 30 s, 1, 2, 5, 10, 15, 30 min, 1, 2, 3, 6, 12 h, days) giving at most majorCount() divisions. */
+    /** A readable step (1, 2, 5, 10, 15, 30 s, 1, 2, 5, 10, 15, 30 min, 1, 2, 3, 6, 12 h, days) giving at
+     * most majorCount() divisions. */
     virtual double tickStep() const;
 
 protected:
     std::string m_format = "hh:mm:ss"; /**< label pattern */
-    int m_utcOffset = 0;               /**< seconds added before formatting */
+    int m_utcOffset = 0; /**< seconds added before formatting */
 };
 
 #endif /* QGUI_SCALE_H */

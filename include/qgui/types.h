@@ -25,15 +25,15 @@ typedef int ErrRet;
 
 /** Rectangle in panel pixels. */
 struct Rect {
-    int x;      /**< left edge */
-    int y;      /**< top edge */
-    int width;  /**< width; negative sizes are treated as 0 */
+    int x; /**< left edge */
+    int y; /**< top edge */
+    int width; /**< width; negative sizes are treated as 0 */
     int height; /**< height; negative sizes are treated as 0 */
 };
 
 /** Size of a desktop, in pixels. */
 struct Size {
-    int width;  /**< panel width */
+    int width; /**< panel width */
     int height; /**< panel height */
 };
 
@@ -70,31 +70,31 @@ enum QGuiAlign : unsigned {
 
 /** Font of a text. */
 struct Font {
-    const char* family;   /**< family name, UTF-8; null or "" selects the default font */
-    int pixelSize;        /**< size in pixels; <= 0 selects the default size, clamped to 1..1024 */
-    int weight;           /**< 0..1000 CSS-like weight (400 normal, 700 bold); 0 = normal */
-    U8 italic;            /**< non-zero: italic */
-    U8 underline;         /**< non-zero: underlined */
-    U8 strikeout;         /**< non-zero: struck out */
-    U8 lineSpace;         /**< extra spacing between lines, pixels */
-    U32 color;            /**< text colour word 0xAARRGGBB */
-    U32 align;            /**< font alignment: alignment of the lines inside the text block (QGuiAlign bits) */
+    const char* family; /**< family name, UTF-8; null or "" selects the default font */
+    int pixelSize; /**< size in pixels; <= 0 selects the default size, clamped to 1..1024 */
+    int weight; /**< 0..1000 CSS-like weight (400 normal, 700 bold); 0 = normal */
+    U8 italic; /**< non-zero: italic */
+    U8 underline; /**< non-zero: underlined */
+    U8 strikeout; /**< non-zero: struck out */
+    U8 lineSpace; /**< extra spacing between lines, pixels */
+    U32 color; /**< text colour word 0xAARRGGBB */
+    U32 align; /**< font alignment: alignment of the lines inside the text block (QGuiAlign bits) */
 };
 
 /** Brush styles of a Brush record. Unknown values are drawn as SOLID. */
 enum BrushStyle : unsigned {
-    BRUSH_NONE = 0,     /**< nothing is filled */
-    BRUSH_SOLID = 1,    /**< color */
-    BRUSH_LINEAR = 2,   /**< linear gradient color -> color2 along angle */
-    BRUSH_RADIAL = 3    /**< radial gradient color (centre) -> color2 (edge) */
+    BRUSH_NONE = 0, /**< nothing is filled */
+    BRUSH_SOLID = 1, /**< color */
+    BRUSH_LINEAR = 2, /**< linear gradient color -> color2 along angle */
+    BRUSH_RADIAL = 3 /**< radial gradient color (centre) -> color2 (edge) */
 };
 
 /** Fill of an area or a text. */
 struct Brush {
-    U32 style;  /**< BrushStyle */
-    U32 color;  /**< first colour word */
+    U32 style; /**< BrushStyle */
+    U32 color; /**< first colour word */
     U32 color2; /**< second colour word (gradients) */
-    int angle;  /**< gradient direction in degrees, 0 = left to right, 90 = top to bottom */
+    int angle; /**< gradient direction in degrees, 0 = left to right, 90 = top to bottom */
 };
 
 /** Line styles of a Pen record; values follow the usual solid/dash/dot set. Unknown values draw solid. */
@@ -116,7 +116,7 @@ struct Pen {
 
 /** Text placement inside a text or button box. */
 struct View_TextLayout {
-    U32 align;     /**< alignment of the text block in its box (QGuiAlign bits) */
+    U32 align; /**< alignment of the text block in its box (QGuiAlign bits) */
     short hMargin; /**< distance from a left/right aligned edge, pixels */
     short vMargin; /**< distance from a top/bottom aligned edge, pixels */
 };
@@ -125,12 +125,13 @@ struct View_TextLayout {
 enum ItemSlashType {
     ITEM_SLASH_WHOLE = 0, /**< the whole item */
     ITEM_SLASH_IMAGE = 1, /**< the item's image only */
-    ITEM_SLASH_SLASH = 2  /**< the item's slash overlay only */
+    ITEM_SLASH_SLASH = 2 /**< the item's slash overlay only */
 };
 
 /** The logic layer's event call-back: (widget id, event code, payload or null). */
 typedef ErrRet (*ViewEventCallBack)(unsigned id, int event, void* data);
-/** Device initialisation: (device number, path a UTF-8, path b UTF-8, option words[3]); non-zero = failure. */
+/** Device initialisation: (device number, path a UTF-8, path b UTF-8, option words[3]); non-zero = failure.
+ */
 typedef int (*ViewDeviceInitCallBack)(unsigned deviceNo, const char* a, const char* b, const unsigned* words);
 /** Start notification, called once at the start of GuiApplication::init. */
 typedef int (*ViewStartCallBack)();
@@ -147,14 +148,14 @@ typedef double (*ViewConvertCallBack)(double);
 
 /** The eight call-backs of the logic layer, in slot order. Any slot may be null. */
 struct _Main_CallBacks {
-    ViewEventCallBack event;           /**< slot 0: events */
+    ViewEventCallBack event; /**< slot 0: events */
     ViewDeviceInitCallBack deviceInit; /**< slot 1: device initialisation */
-    ViewStartCallBack start;           /**< slot 2: start notification */
-    ViewReservedCallBack reserved;     /**< slot 3: unused */
-    ViewCycle10CallBack cycle10ms;     /**< slot 4: every 10 ms */
-    ViewCycle100CallBack cycle100ms;   /**< slot 5: every 100 ms */
+    ViewStartCallBack start; /**< slot 2: start notification */
+    ViewReservedCallBack reserved; /**< slot 3: unused */
+    ViewCycle10CallBack cycle10ms; /**< slot 4: every 10 ms */
+    ViewCycle100CallBack cycle100ms; /**< slot 5: every 100 ms */
     ViewLabelFormatCallBack labelFormat; /**< slot 6: curve axis labels */
-    ViewConvertCallBack convert;       /**< slot 7: curve value conversion */
+    ViewConvertCallBack convert; /**< slot 7: curve value conversion */
 };
 
 #endif /* QGUI_TYPES_H */

@@ -64,7 +64,8 @@ QGUI_EXPORT int View_ClrInputMode(unsigned int id);
 QGUI_EXPORT int View_DeleteWidgets(const std::list<unsigned int>& ids);
 /** Fills `rect` with the widget's geometry; 0, and `rect` untouched for an unknown id. */
 QGUI_EXPORT int View_GetWgtRect(unsigned int id, Rect& rect);
-/** Hides the widget, its image or its slash overlay (ItemSlashType); 0, -1 for a slash overlay on a kind without one. */
+/** Hides the widget, its image or its slash overlay (ItemSlashType); 0, -1 for a slash overlay on a kind
+ * without one. */
 QGUI_EXPORT int View_HideWidget(unsigned int id, ItemSlashType type);
 /** Moves the widget to (x, y) in its parent; 0, or -1 for an unknown id or a kind that cannot move. */
 QGUI_EXPORT int View_MoveWidget(unsigned int id, int x, int y);
@@ -91,7 +92,8 @@ QGUI_EXPORT int View_ShowWidget(unsigned int id, unsigned int fromCache, ItemSla
 QGUI_EXPORT int View_ChangeWindowTitle(unsigned int windowId, const char* title);
 /** Closes desktop `desktopNo` and its windows; always 0. */
 QGUI_EXPORT int View_CloseDesktop(unsigned int desktopNo);
-/** Closes a window or popup window; a popup's widgets stay cached for reuse. 0, or -1 for an unknown window. */
+/** Closes a window or popup window; a popup's widgets stay cached for reuse. 0, or -1 for an unknown window.
+ */
 QGUI_EXPORT int View_CloseWindow(unsigned int windowId);
 /** Creates desktop `desktopNo` of the given size; always 0. */
 QGUI_EXPORT int View_CreateDesktop(const Size& size, unsigned int desktopNo);
@@ -125,7 +127,8 @@ QGUI_EXPORT int View_SetLight(int percent);
 QGUI_EXPORT int View_SetWindowParent(unsigned int windowId, unsigned int parentId);
 /** Shows desktop `desktopNo`; always 0. */
 QGUI_EXPORT int View_ShowDesktop(unsigned int desktopNo);
-/** Starts the busy bar animation for `id`; `modal` non-zero blocks input while it runs; `reserved` is unused. Always 0. */
+/** Starts the busy bar animation for `id`; `modal` non-zero blocks input while it runs; `reserved` is unused.
+ * Always 0. */
 QGUI_EXPORT int View_ShowProcess(unsigned int id, unsigned int modal, unsigned int reserved);
 /** Shows or hides a window or popup window; 0, or -1 for an unknown window. */
 QGUI_EXPORT int View_ShowWindow(unsigned int windowId, bool show);
@@ -161,14 +164,18 @@ QGUI_EXPORT int View_SetSysWndLang(unsigned int lang);
  * written (without the zero), or -1 when neither code is known (one known code
  * is enough to attempt the conversion) or a buffer is null.
  */
-QGUI_EXPORT int View_CvtEncode(int from, int to, const void* src, unsigned srcLen, char* dst, unsigned dstSize);
-/** Converts local 8-bit text to UTF-8 into dst (which must be large enough), with its zero; bytes written, -1 for null pointers. */
+QGUI_EXPORT int View_CvtEncode(
+    int from, int to, const void* src, unsigned srcLen, char* dst, unsigned dstSize);
+/** Converts local 8-bit text to UTF-8 into dst (which must be large enough), with its zero; bytes written, -1
+ * for null pointers. */
 QGUI_EXPORT int View_CvtLocal2Utf8(const char* local, char* dst);
-/** Converts UTF-8 to the local 8-bit encoding into dst (which must be large enough), with its zero; bytes written, -1 for a null or empty input. */
+/** Converts UTF-8 to the local 8-bit encoding into dst (which must be large enough), with its zero; bytes
+ * written, -1 for a null or empty input. */
 QGUI_EXPORT int View_CvtUtf82Local(const char* utf8, char* dst);
 /** A 32-bit hash, computed with `seed`, of a new random UUID. */
 QGUI_EXPORT unsigned View_MakeUUID(unsigned seed);
-/** Grabs the panel or a window into a file, or loads an image file back; the result comes with EVT_SCREENSHOT for `id`. 0 accepted, -1 refused. */
+/** Grabs the panel or a window into a file, or loads an image file back; the result comes with EVT_SCREENSHOT
+ * for `id`. 0 accepted, -1 refused. */
 QGUI_EXPORT int View_ScreenShot(unsigned int id, View_ScreenShotData* data);
 
 /* ---- button ---- */
@@ -180,7 +187,8 @@ QGUI_EXPORT int View_CreateButton(const View_ImageText* rec, unsigned int window
 
 /* ---- texts ---- */
 
-/** Advances a carousel by the step (dx, dy); 0 for a text widget only, -1 for every other kind (even when it moved) and unknown ids. */
+/** Advances a carousel by the step (dx, dy); 0 for a text widget only, -1 for every other kind (even when it
+ * moved) and unknown ids. */
 QGUI_EXPORT int View_CarouselText(unsigned int id, int dx, int dy);
 /** Recolours the text of a widget from the brush's colour; always 0. */
 QGUI_EXPORT int View_ChangeFontColor(unsigned int id, const Brush* brush);
@@ -226,7 +234,8 @@ QGUI_EXPORT int View_CreateGraphScale(const View_GraphScale* rec, unsigned int w
  * (BarDirection) up to value / maximum of its extent; 0, an unknown id is ignored.
  */
 QGUI_EXPORT int View_FillWidget(unsigned int id, int direction, int value, int maximum, Brush brush);
-/** Turns a widget by `angle` degrees (clockwise) about `origin` (0 top-left ... 4 centre ... 8 bottom-right, row by row); 0, an unknown id is ignored. */
+/** Turns a widget by `angle` degrees (clockwise) about `origin` (0 top-left ... 4 centre ... 8 bottom-right,
+ * row by row); 0, an unknown id is ignored. */
 QGUI_EXPORT int View_RotateWidget(unsigned int id, int angle, int origin);
 /** Resizes a widget to width x height about `origin` (as View_RotateWidget); 0, an unknown id is ignored. */
 QGUI_EXPORT int View_ZoomWidget(unsigned int id, int width, int height, int origin);
@@ -244,7 +253,8 @@ QGUI_EXPORT int View_BarUpdateOrigin(unsigned int id, unsigned char percent);
 QGUI_EXPORT int View_BarUpdateScaleLabels(unsigned int id, const std::vector<std::string>& labels);
 /** Sets the target band from `low` to `high` percent of the range; 0, or -1 for an unknown id. */
 QGUI_EXPORT int View_BarUpdateTarget(unsigned int id, unsigned char low, unsigned char high);
-/** Sets bar `bar`: its fill level as decimal text in percent of the range (for instance "42.5") and its fill; 0, or -1 for an unknown id or bar. */
+/** Sets bar `bar`: its fill level as decimal text in percent of the range (for instance "42.5") and its fill;
+ * 0, or -1 for an unknown id or bar. */
 QGUI_EXPORT int View_BarUpdateVar(unsigned int id, unsigned char bar, const char* value, const Brush& brush);
 /** Creates a bar graph. */
 QGUI_EXPORT int View_CreateBar(const View_Bar* rec, unsigned int windowId);
@@ -306,7 +316,8 @@ QGUI_EXPORT int View_PieChartUpdateLegendLabels(unsigned int id, const std::vect
 
 /* ---- text and numeric input ---- */
 
-/** Re-applies geometry, font, opacity and alignment (multi-line: padding and line numbers too); 0, or -1 for an unknown id or another kind. */
+/** Re-applies geometry, font, opacity and alignment (multi-line: padding and line numbers too); 0, or -1 for
+ * an unknown id or another kind. */
 QGUI_EXPORT int View_ChangeInputParam(unsigned int id, const View_Input* rec);
 /** Creates a multi-line field when rec->flags has INPUT_MULTILINE, otherwise as View_CreateNumInputText. */
 QGUI_EXPORT int View_CreateInputText(const View_Input* rec, unsigned int windowId);
@@ -347,11 +358,14 @@ QGUI_EXPORT int View_ShowKeyBoardWidget(View_keyBoardData* data);
 
 /** Not supported; always -1. */
 QGUI_EXPORT int View_AddListCtrlContent(unsigned int id, const std::vector<std::string>& row, int position);
-/** Paging bar numbers: values[0] total records, values[1] current page, values[2] total pages; 0, or -1 for an unknown id. */
+/** Paging bar numbers: values[0] total records, values[1] current page, values[2] total pages; 0, or -1 for
+ * an unknown id. */
 QGUI_EXPORT int View_ChangeListCtrlBrowseBoxParams(unsigned int id, unsigned int* values);
 /** Replaces the body, row by row; 0, or -1 for an unknown id. */
-QGUI_EXPORT int View_ChangeListCtrlContent(unsigned int id, const std::vector<std::vector<View_ListColData>>& rows);
-/** Edit mode 0 off, 1 on (switching on sends the pending edits as EVT_LIST_EDIT_COMMIT); always -1, also when done. */
+QGUI_EXPORT int View_ChangeListCtrlContent(
+    unsigned int id, const std::vector<std::vector<View_ListColData>>& rows);
+/** Edit mode 0 off, 1 on (switching on sends the pending edits as EVT_LIST_EDIT_COMMIT); always -1, also when
+ * done. */
 QGUI_EXPORT int View_ChangeListCtrlEditMode(unsigned int id, int mode);
 /** Changes nothing; 0, or -1 for an unknown id. */
 QGUI_EXPORT int View_ChangeListCtrlEnableEditCol(unsigned int id, int column, bool enable);
@@ -399,8 +413,10 @@ QGUI_EXPORT int View_CreateListAlarmBar(const View_listAlarmBar* rec, unsigned i
 
 /** Replaces the entries of a flat menu; 0, or -1 for an unknown id. */
 QGUI_EXPORT int View_ChangeMenuContent(unsigned int id, const std::list<View_Text>& entries);
-/** Sets the box's display text (and image, may be null) for the chosen entry `index`; 0, or -1 for an unknown id. */
-QGUI_EXPORT int View_ChangeMenuSelect(unsigned int id, int index, const View_Image* image, const View_Text* text);
+/** Sets the box's display text (and image, may be null) for the chosen entry `index`; 0, or -1 for an unknown
+ * id. */
+QGUI_EXPORT int View_ChangeMenuSelect(
+    unsigned int id, int index, const View_Image* image, const View_Text* text);
 /** Rebuilds a tree menu's content from its root node; 0, or -1 for an unknown id. */
 QGUI_EXPORT int View_ChangeMenuTreeContent(unsigned int id, const View_TreeNode* root);
 /** Sets a tree menu's current entry and the box's display text; 0, or -1 for an unknown id. */
@@ -426,14 +442,16 @@ QGUI_EXPORT int View_MenuPopupDropdownBox(unsigned int id);
 
 /** Creates a clock field. */
 QGUI_EXPORT int View_CreateInputClock(const View_InputClock* rec, unsigned int windowId);
-/** Opens the date/time pop-up for widget `id`, preset from "yyyy-MM-dd hh:mm:ss" text; the choice comes as EVT_DATETIME_OK. Always 0. */
+/** Opens the date/time pop-up for widget `id`, preset from "yyyy-MM-dd hh:mm:ss" text; the choice comes as
+ * EVT_DATETIME_OK. Always 0. */
 QGUI_EXPORT int View_PopupDateTimeDialog(unsigned int id, const char* text);
 
 /* ---- sample curve chart ---- */
 
 /** Creates a sample curve chart. */
 QGUI_EXPORT int View_CreateCurveSample(const View_CurveSample* rec, unsigned int windowId);
-/** Hides or shows channel `channel` (sample chart or XY curve); 0, or -1 for a sample chart channel >= the channel count. */
+/** Hides or shows channel `channel` (sample chart or XY curve); 0, or -1 for a sample chart channel >= the
+ * channel count. */
 QGUI_EXPORT int View_CurveHideChannel(unsigned int id, unsigned int channel, bool hide);
 /** Sets the x tick count (time mode: handed to the history search); always 0. */
 QGUI_EXPORT int View_CurveSampleChangeDispNum(unsigned int id, unsigned int count);
@@ -444,19 +462,25 @@ QGUI_EXPORT int View_CurveSampleInit(unsigned int id, const std::string& text);
 /** Replots only; nothing is removed whatever `count`; always 0. */
 QGUI_EXPORT int View_CurveSamplePopData(unsigned int id, unsigned int count);
 /** Appends samples: label i and values[channel][i] per sample index i; always 0. */
-QGUI_EXPORT int View_CurveSamplePushData(unsigned int id, const std::vector<std::string>& labels, const std::vector<std::vector<double>>& values);
-/** Shows `percent` of the initial span's magnification (200: half the span); `reserved` is ignored; always 0. */
+QGUI_EXPORT int View_CurveSamplePushData(
+    unsigned int id, const std::vector<std::string>& labels, const std::vector<std::vector<double>>& values);
+/** Shows `percent` of the initial span's magnification (200: half the span); `reserved` is ignored; always 0.
+ */
 QGUI_EXPORT int View_CurveSampleScale(unsigned int id, unsigned int percent, unsigned int reserved);
 /**
  * Replaces a page of search data of the listed channels (values per listed
  * channel, labels per sample); `start` is the key of the first sample and
  * `last` marks the last page. Sends EVT_CURVE_DATA_APPLIED when done. Always 0.
  */
-QGUI_EXPORT int View_CurveSampleUpdateData(unsigned int id, const std::vector<unsigned int>& channels, const std::vector<std::string>& labels, const std::vector<std::vector<double>>& values, unsigned int start, bool last);
+QGUI_EXPORT int View_CurveSampleUpdateData(unsigned int id, const std::vector<unsigned int>& channels,
+    const std::vector<std::string>& labels, const std::vector<std::vector<double>>& values,
+    unsigned int start, bool last);
 /** Sets the text labels of the y axis; always 0. */
 QGUI_EXPORT int View_CurveSampleUpdateDataLabel(unsigned int id, const std::vector<std::string>& labels);
-/** Sets the y labels' data type (ColDataType), decimals and limits (limits[0] low, limits[1] high); always 0. */
-QGUI_EXPORT int View_CurveSampleUpdateDataLimit(unsigned int id, int dataType, unsigned char decimals, double* limits);
+/** Sets the y labels' data type (ColDataType), decimals and limits (limits[0] low, limits[1] high); always 0.
+ */
+QGUI_EXPORT int View_CurveSampleUpdateDataLimit(
+    unsigned int id, int dataType, unsigned char decimals, double* limits);
 
 /* ---- curve history search ---- */
 
@@ -476,7 +500,8 @@ QGUI_EXPORT int View_CurveXyClearData(unsigned int id, const std::vector<unsigne
 /** The XY curve has no cursor: does nothing; always 0. */
 QGUI_EXPORT int View_CurveXyShowCursor();
 /** Replaces the points of each listed curve (points[i] for channels[i]); always 0. */
-QGUI_EXPORT int View_CurveXyUpdateData(unsigned int id, const std::vector<unsigned int>& channels, const std::vector<std::list<FPoint>>& points);
+QGUI_EXPORT int View_CurveXyUpdateData(
+    unsigned int id, const std::vector<unsigned int>& channels, const std::vector<std::list<FPoint>>& points);
 /** Sets the text labels of the x axis; always 0. */
 QGUI_EXPORT int View_CurveXyUpdateXLabel(unsigned int id, const std::vector<std::string>& labels);
 /** Sets the text labels of the y axis; always 0. */
@@ -486,12 +511,16 @@ QGUI_EXPORT int View_CurveXyUpdateYLabel(unsigned int id, const std::vector<std:
 
 /** Enables or disables the cursor line and window; 0, or -1 for an unknown id. */
 QGUI_EXPORT int View_CurveEnableCursor(unsigned int id, bool enable);
-/** Shows the cursor window with a title and one (channel, text) row per channel; 0, or -1 for an unknown id. */
-QGUI_EXPORT int View_CurveSampleShowCursor(unsigned int id, const std::string& title, const std::vector<std::pair<unsigned short, std::string> >& rows);
+/** Shows the cursor window with a title and one (channel, text) row per channel; 0, or -1 for an unknown id.
+ */
+QGUI_EXPORT int View_CurveSampleShowCursor(unsigned int id, const std::string& title,
+    const std::vector<std::pair<unsigned short, std::string>>& rows);
 /** Replaces the cursor window's title and cells; 0, or -1 for an unknown id. */
-QGUI_EXPORT int View_CurveUpdateCursorContent(unsigned int id, const char* title, const std::vector<std::vector<View_ListColData>>& rows);
+QGUI_EXPORT int View_CurveUpdateCursorContent(
+    unsigned int id, const char* title, const std::vector<std::vector<View_ListColData>>& rows);
 /** Replaces the cursor window's column heads and column fonts; 0, or -1 for an unknown id. */
-QGUI_EXPORT int View_CurveUpdateCursorParams(unsigned int id, const std::vector<View_Text>& heads, const std::vector<Font*>& fonts);
+QGUI_EXPORT int View_CurveUpdateCursorParams(
+    unsigned int id, const std::vector<View_Text>& heads, const std::vector<Font*>& fonts);
 /** Replaces the cursor window's title line; 0, or -1 for an unknown id. */
 QGUI_EXPORT int View_CurveUpdateCursorTitle(unsigned int id, const View_Text& title);
 
@@ -499,11 +528,14 @@ QGUI_EXPORT int View_CurveUpdateCursorTitle(unsigned int id, const View_Text& ti
 
 /** Ejects the removable storage `storeNo` (StoreNo); 0, or -1 when it is not present. */
 QGUI_EXPORT int View_ExtDevEject(int storeNo);
-/** Reports a plugged-in storage `storeNo`: with a package dialog up, EVT_USB_PKG_DOWNLOAD (storeNo, 1); otherwise opens the package dialog. 0. */
+/** Reports a plugged-in storage `storeNo`: with a package dialog up, EVT_USB_PKG_DOWNLOAD (storeNo, 1);
+ * otherwise opens the package dialog. 0. */
 QGUI_EXPORT int View_PopupExtDevPlugin(unsigned int id, int storeNo);
-/** Opens the file dialog at `path` for `id`; the choice comes as EVT_FILE_DIALOG. 0, or -1 for an unknown window. */
+/** Opens the file dialog at `path` for `id`; the choice comes as EVT_FILE_DIALOG. 0, or -1 for an unknown
+ * window. */
 QGUI_EXPORT int View_PopupFileDialog(unsigned int id, const char* path);
-/** Asks the operator to confirm downloading the package at `path` from storage `storeNo`; EVT_USB_PKG_CONFIRM follows a confirmation. 0. */
+/** Asks the operator to confirm downloading the package at `path` from storage `storeNo`; EVT_USB_PKG_CONFIRM
+ * follows a confirmation. 0. */
 QGUI_EXPORT int View_PopupPKGDownloadCfm(unsigned int id, int storeNo, const char* path);
 /** Opens the package explorer on storage `storeNo`; EVT_USB_PKG_BROWSE and EVT_USB_PKG_DOWNLOAD follow. 0. */
 QGUI_EXPORT int View_PopupPKGFileExplorer(unsigned int id, int storeNo);
@@ -516,7 +548,8 @@ QGUI_EXPORT int View_ClosePdfWriter(unsigned int id);
 QGUI_EXPORT int View_CreatePdf(const View_Pdf* rec, unsigned int windowId);
 /** Opens PDF writer `id` on the file `path`; 0, or -1 when the file cannot be written. */
 QGUI_EXPORT int View_CreatePdfWriter(unsigned int id, const char* path);
-/** Runs `work(context)` on a worker thread (a file export of the logic layer); 0 when started, -1 for an empty function. */
+/** Runs `work(context)` on a worker thread (a file export of the logic layer); 0 when started, -1 for an
+ * empty function. */
 QGUI_EXPORT int View_Export2File(void* context, std::function<void(void*)> work);
 /** Sets the page display (PdfDisplayMode); 0, or -1 for an unknown id. */
 QGUI_EXPORT int View_PdfSetDisplayMode(unsigned int id, int mode);
@@ -526,8 +559,10 @@ QGUI_EXPORT int View_PdfSwitchPage(unsigned int id, unsigned int page);
 QGUI_EXPORT int View_PdfUpdateFile(unsigned int id, const char* path);
 /** Zoom in percent, 0 fits the page width; 0, or -1 for an unknown id. */
 QGUI_EXPORT int View_PdfZoom(unsigned int id, unsigned int percent);
-/** Writes a table (heads, then rows of cells) to PDF writer `id`; `newPage` starts it on a new page. 0, or -1 for an unknown writer. */
-QGUI_EXPORT int View_Write2Pdf(unsigned int id, const std::vector<std::string>& heads, const std::vector<std::vector<std::string>>& rows, bool newPage);
+/** Writes a table (heads, then rows of cells) to PDF writer `id`; `newPage` starts it on a new page. 0, or -1
+ * for an unknown writer. */
+QGUI_EXPORT int View_Write2Pdf(unsigned int id, const std::vector<std::string>& heads,
+    const std::vector<std::vector<std::string>>& rows, bool newPage);
 
 /* ---- cameras, media, remote desktop, web (placeholders where not available), audio ---- */
 
@@ -556,7 +591,8 @@ QGUI_EXPORT int View_VncDisConnect(unsigned int id);
 
 /* ---- C++ linkage: functions with standard strings ---- */
 
-/** Converts `src` from encoding `from` to encoding `to` (StrEncode); "" when the conversion cannot be made. */
+/** Converts `src` from encoding `from` to encoding `to` (StrEncode); "" when the conversion cannot be made.
+ */
 QGUI_EXPORT std::string View_CvtEncode2(int from, int to, const std::string& src);
 /** The whole contents of the file at `path` (UTF-8); "" when it cannot be read. */
 QGUI_EXPORT std::string View_FileReadBytes(const char* path);

@@ -31,22 +31,24 @@ namespace xDatabase {
 
 /** One database to connect to; given to db_init. */
 struct DbConnInfo {
-    U32 dbNo = 0;          /**< database number used by db_query / db_querySync */
-    std::string driver;    /**< "QSQLITE", "QMYSQL", "QPSQL" or "QTDS" */
-    std::string hostName;  /**< server host name or address; unused by SQLite */
-    std::string userName;  /**< login user; unused by SQLite */
-    std::string password;  /**< login password; unused by SQLite */
-    std::string dbName;    /**< database name; for SQLite the file path */
-    int port = -1;         /**< server port; -1 = the driver's default */
+    U32 dbNo = 0; /**< database number used by db_query / db_querySync */
+    std::string driver; /**< "QSQLITE", "QMYSQL", "QPSQL" or "QTDS" */
+    std::string hostName; /**< server host name or address; unused by SQLite */
+    std::string userName; /**< login user; unused by SQLite */
+    std::string password; /**< login password; unused by SQLite */
+    std::string dbName; /**< database name; for SQLite the file path */
+    int port = -1; /**< server port; -1 = the driver's default */
 };
 
 /** The result of one request. */
 struct DbQueryResult {
-    U32 queryId = 0;        /**< the caller's query id, handed back unchanged */
-    int errorType = 0;      /**< 0 = no error, else a QSqlError::ErrorType value (1 connection, 2 statement, 3 transaction, 4 unknown) */
-    std::string errorCode;  /**< the driver's native error code, empty when none */
-    std::string errorText;  /**< the error text ("too many sqls" for a refused request) */
-    std::vector<std::vector<std::string>> rows; /**< reading requests: rows, columns in query order; NULL is "" */
+    U32 queryId = 0; /**< the caller's query id, handed back unchanged */
+    int errorType = 0; /**< 0 = no error, else a QSqlError::ErrorType value (1 connection, 2 statement, 3
+                          transaction, 4 unknown) */
+    std::string errorCode; /**< the driver's native error code, empty when none */
+    std::string errorText; /**< the error text ("too many sqls" for a refused request) */
+    std::vector<std::vector<std::string>>
+        rows; /**< reading requests: rows, columns in query order; NULL is "" */
 };
 
 /** The result callback: called once per request, on the thread that called db_init. The

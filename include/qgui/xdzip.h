@@ -18,14 +18,13 @@ namespace XDZip {
  * has finished. Returns 0 if the archive exists afterwards, else 1 (also for a null path,
  * a source that does not exist, or when the packer is not installed).
  */
-QGUI_EXPORT int compress(const char* source, const char* archive, const char* password,
-                         bool deleteSource);
+QGUI_EXPORT int compress(const char* source, const char* archive, const char* password, bool deleteSource);
 
 /**
  * Unpacks every file of \a archive, without its folders, into \a outFolder (null or empty:
  * the current folder), overwriting files of the same name. Returns 0 on success, 1 for a
- * wrong password (or none for an encrypted archive), 2 for anything else: a path without ".zip" (the packer is not run), a
- * null path, a missing archive, a packer that is not installed.
+ * wrong password (or none for an encrypted archive), 2 for anything else: a path without ".zip" (the packer
+ * is not run), a null path, a missing archive, a packer that is not installed.
  */
 QGUI_EXPORT int unCompress(const char* archive, const char* password, const char* outFolder);
 

@@ -13,9 +13,9 @@
 #include <qgui/view.h>
 
 namespace {
-std::atomic<int> g_starts{0}, g_cycles10{0}, g_cycles100{0}, g_inits{0};
+std::atomic<int> g_starts { 0 }, g_cycles10 { 0 }, g_cycles100 { 0 }, g_inits { 0 };
 int g_initResult = 0;
-unsigned g_words[3] = {0, 0, 0};
+unsigned g_words[3] = { 0, 0, 0 };
 int g_samples = -2;
 
 int onStart()
@@ -30,7 +30,10 @@ int onInit(unsigned, const char*, const char*, const unsigned* w)
     std::memcpy(g_words, w, sizeof(g_words));
     return g_initResult;
 }
-void on10() { ++g_cycles10; }
+void on10()
+{
+    ++g_cycles10;
+}
 void on100(int arg)
 {
     if (arg != 0)
@@ -38,13 +41,16 @@ void on100(int arg)
     if (++g_cycles100 == 3)
         ::kill(::getpid(), SIGTERM); // ends the event loop cleanly
 }
-ErrRet onEvent(unsigned, int, void*) { return 0; }
+ErrRet onEvent(unsigned, int, void*)
+{
+    return 0;
+}
 } // namespace
 
 int main(int argc, char** argv)
 {
     const std::string mode = argc > 1 ? argv[1] : "run";
-    _Main_CallBacks cb{};
+    _Main_CallBacks cb {};
     cb.event = onEvent;
     cb.deviceInit = onInit;
     cb.start = onStart;
@@ -59,17 +65,20 @@ int main(int argc, char** argv)
     } else if (mode == "nullcb") {
         result = View_MainThreadLoop(argc, argv, nullptr);
     } else if (mode == "nullslots") {
-        _Main_CallBacks empty{};
-        std::thread([] { ::sleep(1); ::kill(::getpid(), SIGTERM); }).detach();
+        _Main_CallBacks empty {};
+        std::thread([] {
+            ::sleep(1);
+            ::kill(::getpid(), SIGTERM);
+        }).detach();
         result = View_MainThreadLoop(argc, argv, &empty);
     } else if (mode == "nullargv") {
-        char* holes[] = {argv[0], nullptr, argv[1], nullptr};
+        char* holes[] = { argv[0], nullptr, argv[1], nullptr };
         result = View_MainThreadLoop(3, holes, &cb);
     } else {
         result = View_MainThreadLoop(argc, argv, &cb);
     }
     std::printf("result=%d\nstarts=%d\ninits=%d\ncycles10=%d\ncycles100=%d\nwords=%u,%u,%u\nsamples=%d\n",
-                result, g_starts.load(), g_inits.load(), g_cycles10.load(), g_cycles100.load(), g_words[0],
-                g_words[1], g_words[2], g_samples);
+        result, g_starts.load(), g_inits.load(), g_cycles10.load(), g_cycles100.load(), g_words[0],
+        g_words[1], g_words[2], g_samples);
     return 0;
 }

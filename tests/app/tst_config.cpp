@@ -16,8 +16,7 @@
 #include <QQuickItem>
 #include <QTemporaryDir>
 
-class tst_Config : public QObject
-{
+class tst_Config : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -64,7 +63,7 @@ void tst_Config::language_mapping()
     QCOMPARE(cfg->getLocale().language(), chinese ? QLocale::Chinese : QLocale::English);
     QCOMPARE(GlobalInfo::instance()->locale(), cfg->getLocale());
     QCOMPARE(QCoreApplication::translate("QmlMessageBox", "Message"),
-             chinese ? QString::fromUtf8("消息") : QString("Message")); // the embedded translation
+        chinese ? QString::fromUtf8("消息") : QString("Message")); // the embedded translation
     cfg->setLocale(1u);
 }
 
@@ -72,7 +71,7 @@ void tst_Config::curve_search_times()
 {
     auto* cfg = GlobalConfig::getInstance();
     QCOMPARE(cfg->getCurveSampleSearchTime(42), qMakePair(QString(), QString()));
-    cfg->saveCurveSampleSearchTime(42, {"2026-01-01 00:00:00", "2026-01-02 00:00:00"});
+    cfg->saveCurveSampleSearchTime(42, { "2026-01-01 00:00:00", "2026-01-02 00:00:00" });
     QCOMPARE(cfg->getCurveSampleSearchTime(42).second, QString("2026-01-02 00:00:00"));
     QCOMPARE(cfg->getCurveSampleSearchTime(43), qMakePair(QString(), QString()));
 }
@@ -91,8 +90,8 @@ void tst_Config::project_paths_derive_from_the_project()
 
 void tst_Config::project_fonts_load_and_unload()
 {
-    const QStringList candidates = {"/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf",
-                                    "/usr/share/fonts/truetype/dejavu/DejaVuSansMono.ttf"};
+    const QStringList candidates = { "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf",
+        "/usr/share/fonts/truetype/dejavu/DejaVuSansMono.ttf" };
     QTemporaryDir prj;
     QDir().mkpath(prj.path() + "/fontstring/sub");
     int copied = 0;
@@ -109,7 +108,8 @@ void tst_Config::project_fonts_load_and_unload()
     ProjectManage::getInstance()->setPrjPath(prj.path() + "/");
     auto* fm = FontMange::getInstance();
     QCOMPARE(fm->loadFontFile(), copied);
-    QVERIFY(fm->loadedFamilies().contains("DejaVu Sans") || fm->loadedFamilies().contains("DejaVu Sans Mono"));
+    QVERIFY(
+        fm->loadedFamilies().contains("DejaVu Sans") || fm->loadedFamilies().contains("DejaVu Sans Mono"));
     fm->unloadFontFile();
     QVERIFY(fm->loadedFamilies().isEmpty());
     QCOMPARE(fm->loadFontFilesFrom(QString(), true), 0);
@@ -150,7 +150,7 @@ void tst_Config::shell_rotation_and_zoom_follow_the_view()
 
 void tst_Config::double_click_recognition_data()
 {
-    QTest::addColumn<QPoint>("second");  // offset of the second press
+    QTest::addColumn<QPoint>("second"); // offset of the second press
     QTest::addColumn<bool>("clearBetween");
     QTest::addColumn<int>("doubleClicks");
     QTest::newRow("same place") << QPoint(0, 0) << false << 1;
@@ -170,7 +170,8 @@ void tst_Config::double_click_recognition()
     view.setSource(QUrl());
     QQmlComponent c(view.engine());
     c.setData("import QtQuick 2.15\nMouseArea { width: 300; height: 200; property int dbl: 0;"
-              " onDoubleClicked: dbl++ }", QUrl());
+              " onDoubleClicked: dbl++ }",
+        QUrl());
     auto* area = qobject_cast<QQuickItem*>(c.create());
     QVERIFY(area);
     area->setParentItem(view.contentItem());

@@ -9,8 +9,7 @@
 #include "app/ccrashstack.h"
 #include "common/testutil.h"
 
-class tst_Crash : public QObject
-{
+class tst_Crash : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -42,11 +41,11 @@ void tst_Crash::a_crash_leaves_a_complete_report()
     QProcess p;
     p.setWorkingDirectory(dir.path());
     const QString exe = TestUtil::helperPath("tests/app", "crash_child");
-    p.start(exe, {how});
+    p.start(exe, { how });
     QVERIFY(p.waitForFinished(20000));
     QCOMPARE(p.exitStatus(), QProcess::CrashExit); // the process still dies of its signal
 
-    const QStringList reports = QDir(dir.path()).entryList({"halvex_crash_*.log"}, QDir::Files);
+    const QStringList reports = QDir(dir.path()).entryList({ "halvex_crash_*.log" }, QDir::Files);
     QCOMPARE(reports.size(), 1);
     QVERIFY(QRegularExpression("^halvex_crash_\\d{8}_\\d{6}\\.log$").match(reports.first()).hasMatch());
     QFile f(dir.filePath(reports.first()));
@@ -83,7 +82,7 @@ void tst_Crash::a_crash_leaves_a_complete_report()
 void tst_Crash::report_file_name_has_date_and_time()
 {
     const QString name = QString::fromStdString(CCrashStack::reportFileName());
-    const QString expected = "halvex_crash_" + QDateTime::currentDateTime().toString("yyyyMMdd_hh") ;
+    const QString expected = "halvex_crash_" + QDateTime::currentDateTime().toString("yyyyMMdd_hh");
     QVERIFY2(name.startsWith(expected.left(21)), qPrintable(name));
     QVERIFY(name.endsWith(".log"));
 }

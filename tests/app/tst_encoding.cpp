@@ -8,8 +8,7 @@
 #include <qgui/ids.h>
 #include <qgui/view.h>
 
-class tst_Encoding : public QObject
-{
+class tst_Encoding : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -26,7 +25,10 @@ private Q_SLOTS:
     void uuid_file_and_device_name();
 };
 
-static QByteArray gb(const char* hex) { return QByteArray::fromHex(hex); }
+static QByteArray gb(const char* hex)
+{
+    return QByteArray::fromHex(hex);
+}
 
 void tst_Encoding::conversion_between_the_four_encodings_data()
 {
@@ -42,7 +44,8 @@ void tst_Encoding::conversion_between_the_four_encodings_data()
     QTest::newRow("Latin-1 -> UTF-8") << 3 << 2 << QByteArray("caf\xe9") << QByteArray("caf\xc3\xa9");
     QTest::newRow("UTF-8 -> Latin-1") << 2 << 3 << QByteArray("caf\xc3\xa9") << QByteArray("caf\xe9");
     QTest::newRow("GB2312 -> UTF-16LE") << 0 << 1 << gb("d6d0") << QByteArray("\x2d\x4e", 2);
-    QTest::newRow("invalid UTF-8 becomes U+FFFD") << 2 << 1 << QByteArray("a\xff") << QByteArray("a\0\xfd\xff", 4);
+    QTest::newRow("invalid UTF-8 becomes U+FFFD")
+        << 2 << 1 << QByteArray("a\xff") << QByteArray("a\0\xfd\xff", 4);
     QTest::newRow("same code copies bytes") << 2 << 2 << QByteArray("\xff\xfe") << QByteArray("\xff\xfe");
     QTest::newRow("unknown source read as UTF-8") << 9 << 0 << zh << gb("d6d0cec4");
     QTest::newRow("unknown target written as UTF-8") << 0 << 8 << gb("d6d0cec4") << zh;
@@ -71,12 +74,13 @@ void tst_Encoding::output_is_bounded_and_never_splits_a_character_data()
     QTest::addColumn<int>("dstSize");
     QTest::addColumn<QByteArray>("expected");
     const QByteArray zh = QString::fromUtf8("中文字").toUtf8(); // 9 bytes
-    QTest::newRow("same code copies dstSize bytes") << 2 << 2 << QByteArray("0123456789") << 4 << QByteArray("0123");
+    QTest::newRow("same code copies dstSize bytes")
+        << 2 << 2 << QByteArray("0123456789") << 4 << QByteArray("0123");
     QTest::newRow("UTF-8 cut before a character") << 0 << 2 << gb("d6d0cec4d7d6") << 8 << zh.left(6);
     QTest::newRow("GB2312 cut before a character") << 2 << 0 << zh << 3 << gb("d6d0");
     QTest::newRow("UTF-16LE even length") << 2 << 1 << QByteArray("abc") << 5 << QByteArray("a\0b\0", 4);
-    QTest::newRow("UTF-16LE keeps surrogate pairs whole") << 2 << 1 << QString::fromUtf8("a😀").toUtf8() << 5
-                                                          << QByteArray("a\0", 2);
+    QTest::newRow("UTF-16LE keeps surrogate pairs whole")
+        << 2 << 1 << QString::fromUtf8("a😀").toUtf8() << 5 << QByteArray("a\0", 2);
     QTest::newRow("Latin-1 any byte") << 2 << 3 << QByteArray("abcdef") << 3 << QByteArray("abc");
     QTest::newRow("zero-size buffer") << 2 << 0 << zh << 0 << QByteArray();
 }
@@ -89,7 +93,8 @@ void tst_Encoding::output_is_bounded_and_never_splits_a_character()
     QFETCH(int, dstSize);
     QFETCH(QByteArray, expected);
     QByteArray buffer(dstSize + 8, '#'); // guard bytes after the allowed size
-    const int n = View_CvtEncode(from, to, src.constData(), unsigned(src.size()), buffer.data(), unsigned(dstSize));
+    const int n
+        = View_CvtEncode(from, to, src.constData(), unsigned(src.size()), buffer.data(), unsigned(dstSize));
     QCOMPARE(n, expected.size());
     QCOMPARE(buffer.left(n), expected);
     QCOMPARE(buffer.mid(dstSize), QByteArray(8, '#')); // nothing written past dstSize
@@ -118,7 +123,8 @@ void tst_Encoding::unknown_codes_and_null_buffers()
     char dst[8];
     std::memset(dst, '#', sizeof(dst));
     const char* src = "abc";
-    QCOMPARE(View_CvtEncode(from, to, nullSrc ? nullptr : src, 3, nullDst ? nullptr : dst, sizeof(dst)), expected);
+    QCOMPARE(
+        View_CvtEncode(from, to, nullSrc ? nullptr : src, 3, nullDst ? nullptr : dst, sizeof(dst)), expected);
     QCOMPARE(QByteArray(dst, 8), QByteArray(8, '#'));
 }
 
@@ -165,7 +171,7 @@ void tst_Encoding::identifier_helpers()
 
 void tst_Encoding::storage_paths()
 {
-    const char* expected[] = {"disk/tmp/", "disk/hmi/", "disk/sd/", "disk/usb1/", "disk/usb2/"};
+    const char* expected[] = { "disk/tmp/", "disk/hmi/", "disk/sd/", "disk/usb1/", "disk/usb2/" };
     for (unsigned n = 0; n < 5; ++n)
         QCOMPARE(QByteArray(getStorePath(n)), QByteArray(expected[n]));
     QCOMPARE(QByteArray(getStorePath(5)), QByteArray());

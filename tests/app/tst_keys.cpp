@@ -8,8 +8,7 @@
 #include "common/eventrecorder.h"
 #include "common/testutil.h"
 
-class tst_Keys : public QObject
-{
+class tst_Keys : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -37,7 +36,7 @@ void tst_Keys::initTestCase()
     QQmlComponent c(m_view->engine());
     c.setData("import QtQuick 2.15\nItem { width: 200; height: 100\n"
               " TextInput { objectName: 'field'; anchors.fill: parent; focus: true } }",
-              QUrl());
+        QUrl());
     auto* root = qobject_cast<QQuickItem*>(c.create());
     QVERIFY2(root, qPrintable(c.errorString()));
     root->setParentItem(m_view->contentItem());
@@ -84,8 +83,8 @@ void tst_Keys::key_events_are_reported_then_passed_on_data()
     QTest::newRow("keypad enter") << int(Qt::Key_Enter) << "" << 104u << false << 13 << "";
     QTest::newRow("delete") << int(Qt::Key_Delete) << "" << 119u << false << 127 << "";
     QTest::newRow("function key") << int(Qt::Key_F1) << "" << 67u << false << int(Qt::Key_F1) << "";
-    QTest::newRow("latin-1 letter is a signed byte") << int(Qt::Key_Eacute) << QString::fromUtf8("é") << 40u
-                                                    << false << -23 << QString::fromUtf8("é");
+    QTest::newRow("latin-1 letter is a signed byte")
+        << int(Qt::Key_Eacute) << QString::fromUtf8("é") << 40u << false << -23 << QString::fromUtf8("é");
     QTest::newRow("auto-repeat dropped") << int(Qt::Key_B) << "b" << 56u << true << -1000 << "";
     QTest::newRow("synthesised key passed on") << int(Qt::Key_C) << "c" << 0u << false << -1000 << "c";
 }

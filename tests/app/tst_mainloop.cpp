@@ -7,8 +7,7 @@
 
 #include "common/testutil.h"
 
-class tst_MainLoop : public QObject
-{
+class tst_MainLoop : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -19,7 +18,8 @@ private:
     QMap<QString, QString> run(const QStringList& args, const QProcessEnvironment& env, int* exitCode);
 };
 
-QMap<QString, QString> tst_MainLoop::run(const QStringList& args, const QProcessEnvironment& env, int* exitCode)
+QMap<QString, QString> tst_MainLoop::run(
+    const QStringList& args, const QProcessEnvironment& env, int* exitCode)
 {
     QProcess p;
     p.setProcessEnvironment(env);
@@ -48,16 +48,23 @@ void tst_MainLoop::main_loop_runs_the_logic_layer_data()
     QTest::addColumn<QString>("words");
     QTest::addColumn<QString>("samples");
 
-    QTest::newRow("runs until terminated") << QStringList{"run", "-option", "5,9,,2"} << "" << "0" << true
-                                           << "0,9,2" << "4";
-    QTest::newRow("failed device init skips the loop") << QStringList{"fail"} << "" << "0" << false << "0,0,0"
+    QTest::newRow("runs until terminated") << QStringList { "run", "-option", "5,9,,2" } << ""
+                                           << "0" << true << "0,9,2"
+                                           << "4";
+    QTest::newRow("failed device init skips the loop") << QStringList { "fail" } << ""
+                                                       << "0" << false << "0,0,0"
                                                        << "4";
-    QTest::newRow("null call-back record") << QStringList{"nullcb"} << "" << "-1" << false << "0,0,0" << "-2";
-    QTest::newRow("null argv entries") << QStringList{"nullargv", "-option", "4"} << "" << "0" << true
-                                       << "0,0,0" << "4";
-    QTest::newRow("antialiasing off") << QStringList{"run"} << "X_DISABLE_ANTIALIASING=1" << "0" << true
-                                      << "0,0,0" << "-1";
-    QTest::newRow("8 samples") << QStringList{"run"} << "X_ANTIALIASING_SAMPLES=8" << "0" << true << "0,0,0"
+    QTest::newRow("null call-back record") << QStringList { "nullcb" } << ""
+                                           << "-1" << false << "0,0,0"
+                                           << "-2";
+    QTest::newRow("null argv entries") << QStringList { "nullargv", "-option", "4" } << ""
+                                       << "0" << true << "0,0,0"
+                                       << "4";
+    QTest::newRow("antialiasing off") << QStringList { "run" } << "X_DISABLE_ANTIALIASING=1"
+                                      << "0" << true << "0,0,0"
+                                      << "-1";
+    QTest::newRow("8 samples") << QStringList { "run" } << "X_ANTIALIASING_SAMPLES=8"
+                               << "0" << true << "0,0,0"
                                << "8";
 }
 

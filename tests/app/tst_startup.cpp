@@ -15,7 +15,7 @@ namespace {
 int g_initCalls = 0;
 unsigned g_initDevice = 99;
 QByteArray g_initA, g_initB;
-unsigned g_initWords[3] = {0, 0, 0};
+unsigned g_initWords[3] = { 0, 0, 0 };
 int g_initResult = 0;
 
 int recordingDeviceInit(unsigned deviceNo, const char* a, const char* b, const unsigned* words)
@@ -30,8 +30,7 @@ int recordingDeviceInit(unsigned deviceNo, const char* a, const char* b, const u
 }
 } // namespace
 
-class tst_Startup : public QObject
-{
+class tst_Startup : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -55,24 +54,24 @@ void tst_Startup::option_words_keep_the_last_word_of_each_kind_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QList<uint>>("expected");
     // the slots start as {100, 101, 102}: an untouched slot keeps its value
-    QTest::newRow("later word of kind 1 wins") << "5,9,,2" << QList<uint>{100, 9, 2};
-    QTest::newRow("kind 3 ignored") << "7" << QList<uint>{100, 101, 102};
-    QTest::newRow("garbage reads as 0") << "abc" << QList<uint>{0, 101, 102};
-    QTest::newRow("blanks around words") << " 4 , 8 " << QList<uint>{8, 101, 102};
-    QTest::newRow("overflow reads as 0") << "99999999999" << QList<uint>{0, 101, 102};
-    QTest::newRow("negative reads as 0") << "-1" << QList<uint>{0, 101, 102};
-    QTest::newRow("empty text") << "" << QList<uint>{100, 101, 102};
-    QTest::newRow("largest word is kind 3") << "4294967295" << QList<uint>{100, 101, 102};
-    QTest::newRow("only commas") << ",,," << QList<uint>{100, 101, 102};
+    QTest::newRow("later word of kind 1 wins") << "5,9,,2" << QList<uint> { 100, 9, 2 };
+    QTest::newRow("kind 3 ignored") << "7" << QList<uint> { 100, 101, 102 };
+    QTest::newRow("garbage reads as 0") << "abc" << QList<uint> { 0, 101, 102 };
+    QTest::newRow("blanks around words") << " 4 , 8 " << QList<uint> { 8, 101, 102 };
+    QTest::newRow("overflow reads as 0") << "99999999999" << QList<uint> { 0, 101, 102 };
+    QTest::newRow("negative reads as 0") << "-1" << QList<uint> { 0, 101, 102 };
+    QTest::newRow("empty text") << "" << QList<uint> { 100, 101, 102 };
+    QTest::newRow("largest word is kind 3") << "4294967295" << QList<uint> { 100, 101, 102 };
+    QTest::newRow("only commas") << ",,," << QList<uint> { 100, 101, 102 };
 }
 
 void tst_Startup::option_words_keep_the_last_word_of_each_kind()
 {
     QFETCH(QString, text);
     QFETCH(QList<uint>, expected);
-    unsigned words[3] = {100, 101, 102};
+    unsigned words[3] = { 100, 101, 102 };
     GuiApplication::parseInitOpts(text, words);
-    QCOMPARE((QList<uint>{words[0], words[1], words[2]}), expected);
+    QCOMPARE((QList<uint> { words[0], words[1], words[2] }), expected);
     GuiApplication::parseInitOpts(text, nullptr); // no slots: nothing happens
 }
 
@@ -85,22 +84,30 @@ void tst_Startup::command_line_sets_project_path_options_and_rotation_data()
     QTest::addColumn<bool>("portrait");
 
     const QString cwd = QDir::currentPath();
-    QTest::newRow("no options") << QStringList{"app"} << "" << "" << 0 << false;
-    QTest::newRow("relative project") << QStringList{"app", "-hmifile", "prj/a"} << cwd + "/prj/a/" << ""
-                                      << 0 << false;
-    QTest::newRow("absolute, double dash") << QStringList{"app", "--hmifile", "/srv/p"} << "/srv/p/" << ""
-                                           << 0 << false;
-    QTest::newRow("trailing slash kept once") << QStringList{"app", "-hmifile", "/srv/p/"} << "/srv/p/"
+    QTest::newRow("no options") << QStringList { "app" } << ""
+                                << "" << 0 << false;
+    QTest::newRow("relative project") << QStringList { "app", "-hmifile", "prj/a" } << cwd + "/prj/a/"
+                                      << "" << 0 << false;
+    QTest::newRow("absolute, double dash") << QStringList { "app", "--hmifile", "/srv/p" } << "/srv/p/"
+                                           << "" << 0 << false;
+    QTest::newRow("trailing slash kept once") << QStringList { "app", "-hmifile", "/srv/p/" } << "/srv/p/"
                                               << "" << 0 << false;
-    QTest::newRow("options and rotation 90") << QStringList{"app", "-option", "5,9", "-rotation", "90"}
-                                             << "" << "5,9" << 90 << true;
-    QTest::newRow("rotation 270") << QStringList{"app", "-rotation", "270"} << "" << "" << 270 << true;
-    QTest::newRow("rotation 180") << QStringList{"app", "-rotation", "180"} << "" << "" << 180 << false;
-    QTest::newRow("rotation garbage") << QStringList{"app", "-rotation", "abc"} << "" << "" << 0 << false;
-    QTest::newRow("unknown option ignored") << QStringList{"app", "--bogus", "x", "-hmifile", "/p"} << "/p/"
-                                            << "" << 0 << false;
-    QTest::newRow("option without value") << QStringList{"app", "-hmifile"} << "" << "" << 0 << false;
-    QTest::newRow("blank project") << QStringList{"app", "-hmifile", "  "} << "" << "" << 0 << false;
+    QTest::newRow("options and rotation 90")
+        << QStringList { "app", "-option", "5,9", "-rotation", "90" } << ""
+        << "5,9" << 90 << true;
+    QTest::newRow("rotation 270") << QStringList { "app", "-rotation", "270" } << ""
+                                  << "" << 270 << true;
+    QTest::newRow("rotation 180") << QStringList { "app", "-rotation", "180" } << ""
+                                  << "" << 180 << false;
+    QTest::newRow("rotation garbage") << QStringList { "app", "-rotation", "abc" } << ""
+                                      << "" << 0 << false;
+    QTest::newRow("unknown option ignored")
+        << QStringList { "app", "--bogus", "x", "-hmifile", "/p" } << "/p/"
+        << "" << 0 << false;
+    QTest::newRow("option without value") << QStringList { "app", "-hmifile" } << ""
+                                          << "" << 0 << false;
+    QTest::newRow("blank project") << QStringList { "app", "-hmifile", "  " } << ""
+                                   << "" << 0 << false;
 }
 
 void tst_Startup::command_line_sets_project_path_options_and_rotation()
@@ -145,10 +152,10 @@ void tst_Startup::start_empties_the_temporary_folder_and_keeps_the_others()
     stale.write(QByteArray(10, 'z'));
     stale.close();
 
-    unsigned words[3] = {0, 0, 0};
+    unsigned words[3] = { 0, 0, 0 };
     GuiApplication::checkPath(root, words);
 
-    for (const char* sub : {"disk/tmp", "disk/hmi", "disk/sd", "disk/usb1", "disk/usb2"})
+    for (const char* sub : { "disk/tmp", "disk/hmi", "disk/sd", "disk/usb1", "disk/usb2" })
         QVERIFY2(QDir(root + sub).exists(), sub);
     QVERIFY(QDir(root + "disk/tmp").isEmpty());
     QCOMPARE(QFile(root + "disk/hmi/keep.txt").size(), qint64(4));
@@ -207,7 +214,7 @@ void tst_Startup::antialiasing_follows_the_environment()
 void tst_Startup::device_initialisation_passes_paths_and_words()
 {
     auto* app = GuiApplication::instance();
-    _Main_CallBacks cb{};
+    _Main_CallBacks cb {};
     cb.deviceInit = &recordingDeviceInit;
     app->setCallbacks(cb);
     g_initCalls = 0;
@@ -233,7 +240,7 @@ QProcess* tst_Startup::startStandIn(const QString& dir, const QString& name)
     QFile::copy(sleepBin, copy);
     QFile::setPermissions(copy, QFile::permissions(copy) | QFile::ExeOwner);
     auto* p = new QProcess(this);
-    p->start(copy, {"60"});
+    p->start(copy, { "60" });
     if (!p->waitForStarted(5000)) {
         delete p;
         return nullptr;
@@ -248,7 +255,7 @@ void tst_Startup::failed_device_initialisation_stops_the_communication_server()
     if (!server)
         QSKIP("no 'sleep' executable to stand in for the communication server");
     auto* app = GuiApplication::instance();
-    _Main_CallBacks cb{};
+    _Main_CallBacks cb {};
     cb.deviceInit = &recordingDeviceInit;
     app->setCallbacks(cb);
     g_initResult = 5;

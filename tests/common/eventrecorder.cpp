@@ -4,7 +4,6 @@
 
 #include <cstring>
 
-
 namespace {
 EventRecorder* g_current = nullptr;
 }
@@ -36,19 +35,40 @@ void EventRecorder::install()
 int EventRecorder::payloadSize(int code)
 {
     switch (code) {
-    case 1: return 2 * sizeof(int);               // x, y
-    case 4: return sizeof(double);                // slider value
-    case 259: case 260: case 263: return sizeof(int);
-    case 513: return sizeof(int);
-    case 519: return 2 * sizeof(unsigned short);
-    case 769: case 770: case 1281: case 2306: return -1;
-    case 1542: case 1544: return sizeof(int);
-    case 1793: case 1794: return sizeof(unsigned) + sizeof(int);
-    case 2049: case 2052: return sizeof(int);
-    case 2051: return sizeof(int); // the result field of the screenshot record
-    case 2305: return 2 * sizeof(unsigned);
-    case 2561: return 2 * sizeof(int);
-    default: return 0;
+    case 1:
+        return 2 * sizeof(int); // x, y
+    case 4:
+        return sizeof(double); // slider value
+    case 259:
+    case 260:
+    case 263:
+        return sizeof(int);
+    case 513:
+        return sizeof(int);
+    case 519:
+        return 2 * sizeof(unsigned short);
+    case 769:
+    case 770:
+    case 1281:
+    case 2306:
+        return -1;
+    case 1542:
+    case 1544:
+        return sizeof(int);
+    case 1793:
+    case 1794:
+        return sizeof(unsigned) + sizeof(int);
+    case 2049:
+    case 2052:
+        return sizeof(int);
+    case 2051:
+        return sizeof(int); // the result field of the screenshot record
+    case 2305:
+        return 2 * sizeof(unsigned);
+    case 2561:
+        return 2 * sizeof(int);
+    default:
+        return 0;
     }
 }
 

@@ -15,13 +15,12 @@
  * install() puts the recorder behind LogicLayerCaller; payloadSize() tells how
  * many payload bytes to copy for a code (0 for none, -1 for a UTF-8 string).
  */
-class EventRecorder
-{
+class EventRecorder {
 public:
     struct Event {
         unsigned id = 0;
         int code = 0;
-        QByteArray payload;  ///< copied payload bytes, empty for none
+        QByteArray payload; ///< copied payload bytes, empty for none
         bool nullData = true; ///< the payload pointer was null
         int intAt(int index) const;
         QString text() const { return QString::fromUtf8(payload); }

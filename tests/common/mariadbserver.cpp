@@ -13,21 +13,24 @@ QString findProgram(const QString& name)
 {
     QString p = QStandardPaths::findExecutable(name);
     if (p.isEmpty())
-        p = QStandardPaths::findExecutable(name, {QStringLiteral("/usr/sbin"), QStringLiteral("/usr/bin")});
+        p = QStandardPaths::findExecutable(name, { QStringLiteral("/usr/sbin"), QStringLiteral("/usr/bin") });
     return p;
 }
 } // namespace
 
-MariaDbServer::MariaDbServer() : ServerProcess(QStringLiteral("mariadbd"))
+MariaDbServer::MariaDbServer()
+    : ServerProcess(QStringLiteral("mariadbd"))
 {
-    if (findProgram(QStringLiteral("mariadbd")).isEmpty() || findProgram(QStringLiteral("mariadb-install-db")).isEmpty())
+    if (findProgram(QStringLiteral("mariadbd")).isEmpty()
+        || findProgram(QStringLiteral("mariadb-install-db")).isEmpty())
         setUnavailable(QStringLiteral("MariaDB is not installed (mariadbd, mariadb-install-db)"));
 }
 
 bool MariaDbServer::setUp()
 {
-    QStringList args{QStringLiteral("--no-defaults"), QStringLiteral("--datadir=") + dir() + QStringLiteral("/data"),
-                     QStringLiteral("--skip-test-db"), QStringLiteral("--auth-root-authentication-method=normal")};
+    QStringList args { QStringLiteral("--no-defaults"),
+        QStringLiteral("--datadir=") + dir() + QStringLiteral("/data"), QStringLiteral("--skip-test-db"),
+        QStringLiteral("--auth-root-authentication-method=normal") };
     if (::geteuid() == 0)
         args << QStringLiteral("--user=root");
     QByteArray log;
@@ -45,16 +48,14 @@ QString MariaDbServer::program() const
 
 QStringList MariaDbServer::arguments() const
 {
-    QStringList args{QStringLiteral("--no-defaults"),
-                     QStringLiteral("--datadir=") + dir() + QStringLiteral("/data"),
-                     QStringLiteral("--socket=") + dir() + QStringLiteral("/mysqld.sock"),
-                     QStringLiteral("--pid-file=") + dir() + QStringLiteral("/mysqld.pid"),
-                     QStringLiteral("--port=") + QString::number(port()),
-                     QStringLiteral("--bind-address=127.0.0.1"),
-                     QStringLiteral("--skip-grant-tables"),
-                     QStringLiteral("--skip-log-bin"),
-                     QStringLiteral("--innodb-buffer-pool-size=32M"),
-                     QStringLiteral("--innodb-flush-log-at-trx-commit=2")};
+    QStringList args { QStringLiteral("--no-defaults"),
+        QStringLiteral("--datadir=") + dir() + QStringLiteral("/data"),
+        QStringLiteral("--socket=") + dir() + QStringLiteral("/mysqld.sock"),
+        QStringLiteral("--pid-file=") + dir() + QStringLiteral("/mysqld.pid"),
+        QStringLiteral("--port=") + QString::number(port()), QStringLiteral("--bind-address=127.0.0.1"),
+        QStringLiteral("--skip-grant-tables"), QStringLiteral("--skip-log-bin"),
+        QStringLiteral("--innodb-buffer-pool-size=32M"),
+        QStringLiteral("--innodb-flush-log-at-trx-commit=2") };
     if (::geteuid() == 0)
         args << QStringLiteral("--user=root");
     return args;

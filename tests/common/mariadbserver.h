@@ -7,8 +7,7 @@
  * A MariaDB server of the system's packages, in a temporary data folder on loopback,
  * with grant tables skipped (any user, no password) and the database "qgui" created.
  */
-class MariaDbServer : public ServerProcess
-{
+class MariaDbServer : public ServerProcess {
 public:
     MariaDbServer();
 

@@ -8,13 +8,15 @@ QString findProgram(const QString& name)
 {
     QString p = QStandardPaths::findExecutable(name);
     if (p.isEmpty())
-        p = QStandardPaths::findExecutable(name, {QStringLiteral("/usr/sbin"), QStringLiteral("/usr/bin")});
+        p = QStandardPaths::findExecutable(name, { QStringLiteral("/usr/sbin"), QStringLiteral("/usr/bin") });
     return p;
 }
 } // namespace
 
 MosquittoBroker::MosquittoBroker(const QString& user, const QString& password)
-    : ServerProcess(QStringLiteral("mosquitto")), m_user(user), m_password(password)
+    : ServerProcess(QStringLiteral("mosquitto"))
+    , m_user(user)
+    , m_password(password)
 {
     if (findProgram(QStringLiteral("mosquitto")).isEmpty())
         setUnavailable(QStringLiteral("mosquitto is not installed"));
@@ -24,17 +26,20 @@ MosquittoBroker::MosquittoBroker(const QString& user, const QString& password)
 
 bool MosquittoBroker::setUp()
 {
-    QByteArray conf = "listener " + QByteArray::number(port()) + " 127.0.0.1\n"
-                      "log_dest file " + dir().toLocal8Bit() + "/mosquitto.log\n"
-                      "log_type all\nconnection_messages true\n"
-                      "persistence false\nuser root\n";
+    QByteArray conf = "listener " + QByteArray::number(port())
+        + " 127.0.0.1\n"
+          "log_dest file "
+        + dir().toLocal8Bit()
+        + "/mosquitto.log\n"
+          "log_type all\nconnection_messages true\n"
+          "persistence false\nuser root\n";
     if (m_user.isEmpty()) {
         conf += "allow_anonymous true\n";
     } else {
         const QString file = dir() + QStringLiteral("/passwd");
         QByteArray log;
         if (!runTool(findProgram(QStringLiteral("mosquitto_passwd")),
-                     {QStringLiteral("-c"), QStringLiteral("-b"), file, m_user, m_password}, &log)) {
+                { QStringLiteral("-c"), QStringLiteral("-b"), file, m_user, m_password }, &log)) {
             setError(QStringLiteral("mosquitto_passwd failed: ") + QString::fromLocal8Bit(log));
             return false;
         }
@@ -53,7 +58,7 @@ QString MosquittoBroker::program() const
 
 QStringList MosquittoBroker::arguments() const
 {
-    return {QStringLiteral("-c"), dir() + QStringLiteral("/mosquitto.conf")};
+    return { QStringLiteral("-c"), dir() + QStringLiteral("/mosquitto.conf") };
 }
 
 QByteArray MosquittoBroker::log() const

@@ -7,8 +7,7 @@
  * A mosquitto broker on a free loopback port, logging everything (connects with their
  * keep-alive, disconnects, subscriptions) to a file. With credentials, only that user may connect.
  */
-class MosquittoBroker : public ServerProcess
-{
+class MosquittoBroker : public ServerProcess {
 public:
     explicit MosquittoBroker(const QString& user = QString(), const QString& password = QString());
     /** The broker's log so far (connects with client id and keep-alive, subscriptions). */

@@ -36,7 +36,7 @@ bool PanelFixture::start(QSize size)
     if (!TestUtil::waitForFrame(m_view.get()))
         return false;
     ViewManage::getInstance();
-    View_CreateDesktop(Size{size.width(), size.height()}, 1);
+    View_CreateDesktop(Size { size.width(), size.height() }, 1);
     // the view fits the panel: with the panel as large as the window there is no scrolling offset
     m_view->resize(size);
     QTest::qWait(20);
@@ -58,22 +58,23 @@ void PanelFixture::stop()
 
 int PanelFixture::switchWindow(unsigned windowId, const Rect& rect, unsigned color)
 {
-    View_Window w{};
+    View_Window w {};
     w.rect = rect;
     w.id = windowId;
-    w.background = Brush{BRUSH_SOLID, color, 0, 0};
+    w.background = Brush { BRUSH_SOLID, color, 0, 0 };
     return View_SwitchWindow(&w);
 }
 
-int PanelFixture::popup(unsigned windowId, const Rect& rect, int z, bool modal, unsigned buttons, const char* title)
+int PanelFixture::popup(
+    unsigned windowId, const Rect& rect, int z, bool modal, unsigned buttons, const char* title)
 {
-    View_Window w{};
+    View_Window w {};
     w.rect = rect;
     w.id = windowId;
-    w.background = Brush{BRUSH_SOLID, 0xFFFFFFFFu, 0, 0};
-    w.border = Pen{0xFF000000u, 2, PEN_SOLID};
+    w.background = Brush { BRUSH_SOLID, 0xFFFFFFFFu, 0, 0 };
+    w.border = Pen { 0xFF000000u, 2, PEN_SOLID };
     w.title = title;
-    View_Popup p{};
+    View_Popup p {};
     p.z = z;
     p.modal = modal ? 1 : 0;
     p.movable = 1;
@@ -117,7 +118,7 @@ XBaseControl* PanelFixture::control(unsigned id, unsigned windowId, QPointF pos)
 {
     QQuickItem* content = ViewManage::getInstance()->windowManage()->getWindow(windowId);
     auto* c = new XBaseControl(content);
-    c->setSize({80, 50});
+    c->setSize({ 80, 50 });
     c->setPosition(pos);
     c->setId(id);
     c->setWindowId(windowId);

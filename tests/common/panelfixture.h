@@ -18,8 +18,7 @@ class XQuickView;
  * View_MainThreadLoop's start-up (without its event loop: tests drive events).
  * Presses are sent as real mouse and touch events to the view.
  */
-class PanelFixture
-{
+class PanelFixture {
 public:
     PanelFixture();
     ~PanelFixture();
@@ -36,7 +35,7 @@ public:
     int switchWindow(unsigned windowId, const Rect& rect, unsigned color = 0xFFE0E0E0u);
     /** View_PopupWindow with a title bar and its buttons. */
     int popup(unsigned windowId, const Rect& rect, int z = 10, bool modal = false, unsigned buttons = 0x7,
-              const char* title = "popup");
+        const char* title = "popup");
 
     /** A plain registered control (it reports its own presses as events 2 and 3) placed in the
      *  window \a windowId at \a pos, 80 x 50. */

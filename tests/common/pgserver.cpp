@@ -9,7 +9,8 @@
 #include <pwd.h>
 #include <unistd.h>
 
-PgServer::PgServer() : ServerProcess(QStringLiteral("postgres"))
+PgServer::PgServer()
+    : ServerProcess(QStringLiteral("postgres"))
 {
     if (binDir().isEmpty())
         setUnavailable(QStringLiteral("PostgreSQL is not installed (no /usr/lib/postgresql/*/bin/postgres)"));
@@ -43,13 +44,14 @@ bool PgServer::setUp()
             return false;
         }
     }
-    QStringList args{QStringLiteral("-D"), dir() + QStringLiteral("/data"), QStringLiteral("-U"),
-                     QStringLiteral("postgres"), QStringLiteral("--auth=trust"), QStringLiteral("-E"),
-                     QStringLiteral("UTF8"), QStringLiteral("--locale=C"), QStringLiteral("--no-sync")};
+    QStringList args { QStringLiteral("-D"), dir() + QStringLiteral("/data"), QStringLiteral("-U"),
+        QStringLiteral("postgres"), QStringLiteral("--auth=trust"), QStringLiteral("-E"),
+        QStringLiteral("UTF8"), QStringLiteral("--locale=C"), QStringLiteral("--no-sync") };
     QString prog = binDir() + QStringLiteral("/initdb");
     if (::geteuid() == 0) {
-        args = QStringList{QStringLiteral("--reuid=postgres"), QStringLiteral("--regid=postgres"),
-                           QStringLiteral("--init-groups"), QStringLiteral("--"), prog} + args;
+        args = QStringList { QStringLiteral("--reuid=postgres"), QStringLiteral("--regid=postgres"),
+            QStringLiteral("--init-groups"), QStringLiteral("--"), prog }
+            + args;
         prog = QStringLiteral("setpriv");
     }
     QByteArray log;
@@ -67,10 +69,10 @@ QString PgServer::program() const
 
 QStringList PgServer::arguments() const
 {
-    return {QStringLiteral("-D"), dir() + QStringLiteral("/data"), QStringLiteral("-p"), QString::number(port()),
-            QStringLiteral("-k"), dir(), QStringLiteral("-c"), QStringLiteral("listen_addresses=127.0.0.1"),
-            QStringLiteral("-c"), QStringLiteral("fsync=off"), QStringLiteral("-c"),
-            QStringLiteral("max_connections=40")};
+    return { QStringLiteral("-D"), dir() + QStringLiteral("/data"), QStringLiteral("-p"),
+        QString::number(port()), QStringLiteral("-k"), dir(), QStringLiteral("-c"),
+        QStringLiteral("listen_addresses=127.0.0.1"), QStringLiteral("-c"), QStringLiteral("fsync=off"),
+        QStringLiteral("-c"), QStringLiteral("max_connections=40") };
 }
 
 bool PgServer::ready()

@@ -9,8 +9,7 @@
  * which then owns the temporary folder. Login: user "postgres", no password, database
  * "postgres".
  */
-class PgServer : public ServerProcess
-{
+class PgServer : public ServerProcess {
 public:
     PgServer();
     static QString binDir();

@@ -35,7 +35,9 @@ QList<qint64> childrenOf(qint64 pid)
 
 } // namespace
 
-ServerProcess::ServerProcess(const QString& name) : m_name(name), m_dir(new QTemporaryDir)
+ServerProcess::ServerProcess(const QString& name)
+    : m_name(name)
+    , m_dir(new QTemporaryDir)
 {
     if (!m_dir->isValid())
         m_unavailable = QStringLiteral("no temporary folder");
@@ -100,8 +102,10 @@ bool ServerProcess::start(int timeoutMs)
     QStringList args = arguments();
     if (::geteuid() == 0 && !runAsUser().isEmpty()) {
         // setpriv execs the server itself, so the process id stays the server's
-        args = QStringList{QStringLiteral("--reuid=") + runAsUser(), QStringLiteral("--regid=") + runAsUser(),
-                           QStringLiteral("--init-groups"), QStringLiteral("--"), prog} + args;
+        args = QStringList { QStringLiteral("--reuid=") + runAsUser(),
+            QStringLiteral("--regid=") + runAsUser(), QStringLiteral("--init-groups"), QStringLiteral("--"),
+            prog }
+            + args;
         prog = QStringLiteral("setpriv");
     }
     m_process->start(prog, args);

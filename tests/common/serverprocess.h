@@ -17,8 +17,7 @@
  * Subclasses set the program and its arguments (start arguments may depend on port()
  * and dir()), and prepare the folder in setUp().
  */
-class ServerProcess
-{
+class ServerProcess {
 public:
     virtual ~ServerProcess();
 
@@ -43,12 +42,12 @@ public:
     /** True when something accepts TCP connections on 127.0.0.1:\a port. */
     static bool accepts(quint16 port);
     /** Runs a helper command to its end (bounded); false on failure, with the output in \a log. */
-    static bool runTool(const QString& program, const QStringList& args, QByteArray* log = nullptr,
-                        int timeoutMs = 120000);
+    static bool runTool(
+        const QString& program, const QStringList& args, QByteArray* log = nullptr, int timeoutMs = 120000);
 
 protected:
     explicit ServerProcess(const QString& name);
-    virtual bool setUp() = 0;                  ///< first start only: prepare dir()
+    virtual bool setUp() = 0; ///< first start only: prepare dir()
     virtual QString program() const = 0;
     virtual QStringList arguments() const = 0;
     /** Extra readiness check after the port accepts connections. */

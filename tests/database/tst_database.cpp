@@ -71,14 +71,16 @@ DbQueryResult sync(unsigned db, const QByteArray& sql, bool read = false)
 
 QString describe(const DbQueryResult& r)
 {
-    return QStringLiteral("type %1 code %2: %3").arg(r.errorType).arg(QString::fromStdString(r.errorCode),
-                                                                      QString::fromStdString(r.errorText));
+    return QStringLiteral("type %1 code %2: %3")
+        .arg(r.errorType)
+        .arg(QString::fromStdString(r.errorCode), QString::fromStdString(r.errorText));
 }
 
 int poolThreads()
 {
     int n = 0;
-    for (const QString& t : QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+    for (const QString& t :
+        QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
         QFile comm(QStringLiteral("/proc/self/task/%1/comm").arg(t));
         if (comm.open(QIODevice::ReadOnly) && comm.readAll().startsWith("Thread (pooled)"))
             ++n;
@@ -88,8 +90,7 @@ int poolThreads()
 
 } // namespace
 
-class tst_Database : public QObject
-{
+class tst_Database : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase();
@@ -146,18 +147,21 @@ bool tst_Database::available(unsigned db)
     return true;
 }
 
-#define REQUIRE_SERVER(db)                                                                         \
-    do {                                                                                           \
-        if (!available(db))                                                                        \
-            QSKIP(qPrintable((db) == kPostgres ? m_pgSkip : m_mariaSkip));                         \
+#define REQUIRE_SERVER(db)                                                                                   \
+    do {                                                                                                     \
+        if (!available(db))                                                                                  \
+            QSKIP(qPrintable((db) == kPostgres ? m_pgSkip : m_mariaSkip));                                   \
     } while (0)
 
 QByteArray tst_Database::idColumn(unsigned db) const
 {
     switch (db) {
-    case kPostgres: return "id serial primary key";
-    case kMariaDb: return "id int auto_increment primary key";
-    default: return "id integer primary key autoincrement";
+    case kPostgres:
+        return "id serial primary key";
+    case kMariaDb:
+        return "id int auto_increment primary key";
+    default:
+        return "id integer primary key autoincrement";
     }
 }
 
@@ -179,11 +183,11 @@ void tst_Database::initTestCase()
     junk.close();
 
     std::list<DbConnInfo> infos;
-    infos.push_back({kSqlite, "QSQLITE", "", "", "", m_dir.filePath("main db.sqlite").toStdString(), -1});
-    infos.push_back({kPostgres, "QPSQL", "127.0.0.1", "postgres", "", "postgres", m_pg->port()});
-    infos.push_back({kMariaDb, "QMYSQL", "127.0.0.1", "root", "", "qgui", m_maria->port()});
-    infos.push_back({kNotADatabase, "QSQLITE", "", "", "", m_dir.filePath("junk.db").toStdString(), -1});
-    infos.push_back({kBadDriver, "QNOPE\xff\xfe", "h\xc3", "u\xff", "p", "d", 1});
+    infos.push_back({ kSqlite, "QSQLITE", "", "", "", m_dir.filePath("main db.sqlite").toStdString(), -1 });
+    infos.push_back({ kPostgres, "QPSQL", "127.0.0.1", "postgres", "", "postgres", m_pg->port() });
+    infos.push_back({ kMariaDb, "QMYSQL", "127.0.0.1", "root", "", "qgui", m_maria->port() });
+    infos.push_back({ kNotADatabase, "QSQLITE", "", "", "", m_dir.filePath("junk.db").toStdString(), -1 });
+    infos.push_back({ kBadDriver, "QNOPE\xff\xfe", "h\xc3", "u\xff", "p", "d", 1 });
     xDatabase::db_init(infos, &onResult);
 }
 
@@ -203,9 +207,8 @@ void tst_Database::read_returns_rows_in_column_order_with_null_as_empty()
     REQUIRE_SERVER(db);
     sync(db, "drop table if exists t_read");
     QVERIFY(sync(db, "create table t_read (a int, b varchar(20), c varchar(20))").errorType == 0);
-    std::list<std::string> fill{"insert into t_read values (1, 'one', 'x')",
-                                "insert into t_read values (2, NULL, '')",
-                                "insert into t_read values (3, 'drei', 'z')"};
+    std::list<std::string> fill { "insert into t_read values (1, 'one', 'x')",
+        "insert into t_read values (2, NULL, '')", "insert into t_read values (3, 'drei', 'z')" };
     QCOMPARE(xDatabase::db_querySync(db, fill).errorType, 0);
 
     xDatabase::db_query(db, 7, "select c, a, b from t_read order by a", true);
@@ -214,8 +217,8 @@ void tst_Database::read_returns_rows_in_column_order_with_null_as_empty()
     QCOMPARE(r.queryId, 7u);
     QVERIFY2(r.errorType == 0, qPrintable(describe(r)));
     QCOMPARE(r.rows.size(), size_t(3));
-    const std::vector<std::string> first{"x", "1", "one"};
-    const std::vector<std::string> second{"", "2", ""}; // NULL and empty text look the same
+    const std::vector<std::string> first { "x", "1", "one" };
+    const std::vector<std::string> second { "", "2", "" }; // NULL and empty text look the same
     QVERIFY(r.rows[0] == first);
     QVERIFY(r.rows[1] == second);
     QCOMPARE(r.rows[2][2], std::string("drei"));
@@ -231,8 +234,8 @@ void tst_Database::failed_statement_leaves_the_others_of_its_request_committed()
     REQUIRE_SERVER(db);
     sync(db, "drop table if exists t_batch");
     QVERIFY(sync(db, "create table t_batch (v int)").errorType == 0);
-    std::list<std::string> sqls{"insert into t_batch values (1)", "insert into no_such_table values (2)",
-                                "insert into t_batch values (3)"};
+    std::list<std::string> sqls { "insert into t_batch values (1)", "insert into no_such_table values (2)",
+        "insert into t_batch values (3)" };
     xDatabase::db_query(db, 11, sqls);
     QVERIFY(waitForResults(1));
     const DbQueryResult& r = g_results.list.first();
@@ -255,10 +258,11 @@ void tst_Database::requests_are_answered_in_queue_order()
     QVERIFY(sync(db, "create table t_order (v int)").errorType == 0);
     const int n = 100;
     for (int i = 0; i < n; ++i) {
-        xDatabase::db_query(db, 1000 + i, QByteArray("select ").append(QByteArray::number(i)).constData(), true);
+        xDatabase::db_query(
+            db, 1000 + i, QByteArray("select ").append(QByteArray::number(i)).constData(), true);
         xDatabase::db_query(db, 2000 + i,
-                            QByteArray("insert into t_order values (").append(QByteArray::number(i)).append(")").constData(),
-                            false);
+            QByteArray("insert into t_order values (").append(QByteArray::number(i)).append(")").constData(),
+            false);
     }
     QVERIFY(waitForResults(2 * n));
     int nextRead = 0, nextWrite = 0;
@@ -319,7 +323,8 @@ void tst_Database::synchronous_calls_overtake_queued_requests()
     const DbQueryResult seen = sync(db, "select count(*) from t_sync", true);
     QVERIFY(std::stoi(seen.rows.at(0).at(0)) <= 2);
     QVERIFY(waitForResults(n));
-    const DbQueryResult before = sync(db, "select count(*) from t_sync where id < (select id from t_sync where tag = 'sync')", true);
+    const DbQueryResult before
+        = sync(db, "select count(*) from t_sync where id < (select id from t_sync where tag = 'sync')", true);
     QVERIFY2(before.errorType == 0, qPrintable(describe(before)));
     QVERIFY(std::stoi(before.rows.at(0).at(0)) <= 1);
 }
@@ -342,7 +347,8 @@ void tst_Database::server_killed_mid_batch_answers_every_request_once_and_recove
 
     const int writes = 200;
     for (int i = 0; i < writes; ++i) {
-        std::list<std::string> sqls{"insert into t_kill values (" + std::to_string(i) + ")", pause.toStdString()};
+        std::list<std::string> sqls { "insert into t_kill values (" + std::to_string(i) + ")",
+            pause.toStdString() };
         xDatabase::db_query(db, i, sqls);
     }
     QVERIFY(waitForResults(1)); // the first batch is done, the second (199 requests) runs
@@ -373,13 +379,13 @@ void tst_Database::server_killed_mid_batch_answers_every_request_once_and_recove
     // Every request reported as done was kept (one more may have committed unseen).
     const int rows = std::stoi(g_results.find(5001)->rows.at(0).at(0));
     QVERIFY2(rows >= committed && rows <= committed + 1,
-             qPrintable(QStringLiteral("%1 rows, %2 reported").arg(rows).arg(committed)));
+        qPrintable(QStringLiteral("%1 rows, %2 reported").arg(rows).arg(committed)));
 }
 
 void tst_Database::unknown_database_numbers_answer_nothing()
 {
     xDatabase::db_query(99, 1, "select 1", true);
-    std::list<std::string> sqls{"select 1"};
+    std::list<std::string> sqls { "select 1" };
     xDatabase::db_query(99, 2, sqls);
     const DbQueryResult r = xDatabase::db_querySync(99, "select 1", true);
     QCOMPARE(r.queryId, 0u);
@@ -419,7 +425,7 @@ void tst_Database::broken_connections_answer_every_request_with_an_error()
 {
     // A file that is not a database (its WAL switch fails, it is used all the same) and a
     // driver that does not exist: every request still gets its one answer.
-    for (unsigned db : {unsigned(kNotADatabase), unsigned(kBadDriver)}) {
+    for (unsigned db : { unsigned(kNotADatabase), unsigned(kBadDriver) }) {
         xDatabase::db_query(db, db * 10 + 1, "select count(*) from sqlite_master", true);
         xDatabase::db_query(db, db * 10 + 2, "create table x (v int)", false);
     }

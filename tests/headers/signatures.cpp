@@ -9,7 +9,7 @@
 
 #include <type_traits>
 
-#define QGUI_CHECK_SIGNATURE(name, type) \
+#define QGUI_CHECK_SIGNATURE(name, type)                                                                     \
     static_assert(std::is_same<decltype(&name), type>::value, #name " changed its signature")
 
 // View_* functions, in the order of the catalogue
@@ -127,13 +127,15 @@ QGUI_CHECK_SIGNATURE(View_SetKBoardTextSelectCursor, int (*)(unsigned int, unsig
 QGUI_CHECK_SIGNATURE(View_ShowKeyBoardWidget, int (*)(View_keyBoardData*));
 QGUI_CHECK_SIGNATURE(View_AddListCtrlContent, int (*)(unsigned int, std::vector<std::string> const&, int));
 QGUI_CHECK_SIGNATURE(View_ChangeListCtrlBrowseBoxParams, int (*)(unsigned int, unsigned int*));
-QGUI_CHECK_SIGNATURE(View_ChangeListCtrlContent, int (*)(unsigned int, std::vector<std::vector<View_ListColData>> const&));
+QGUI_CHECK_SIGNATURE(
+    View_ChangeListCtrlContent, int (*)(unsigned int, std::vector<std::vector<View_ListColData>> const&));
 QGUI_CHECK_SIGNATURE(View_ChangeListCtrlEditMode, int (*)(unsigned int, int));
 QGUI_CHECK_SIGNATURE(View_ChangeListCtrlEnableEditCol, int (*)(unsigned int, int, bool));
 QGUI_CHECK_SIGNATURE(View_ChangeListCtrlEnableFilter, int (*)(unsigned int, bool));
 QGUI_CHECK_SIGNATURE(View_ChangeListCtrlFont, int (*)(unsigned int, std::vector<Font*> const&));
 QGUI_CHECK_SIGNATURE(View_ChangeListCtrlFontColor, int (*)(unsigned int, int, Brush const&));
-QGUI_CHECK_SIGNATURE(View_ChangeListCtrlHideCol, int (*)(unsigned int, std::list<std::pair<int, bool>> const&));
+QGUI_CHECK_SIGNATURE(
+    View_ChangeListCtrlHideCol, int (*)(unsigned int, std::list<std::pair<int, bool>> const&));
 QGUI_CHECK_SIGNATURE(View_ChangeListCtrlRowTextVisible, int (*)(unsigned int, std::list<int> const&, bool));
 QGUI_CHECK_SIGNATURE(View_ChangeListCtrlSel, int (*)(unsigned int, int, int));
 QGUI_CHECK_SIGNATURE(View_ChangeListCtrlTitle, int (*)(unsigned int, std::vector<View_Text> const&));
@@ -168,9 +170,12 @@ QGUI_CHECK_SIGNATURE(View_CurveSampleChangeDispNum, int (*)(unsigned int, unsign
 QGUI_CHECK_SIGNATURE(View_CurveSampleClearData, int (*)(unsigned int, std::vector<unsigned int> const&));
 QGUI_CHECK_SIGNATURE(View_CurveSampleInit, int (*)(unsigned int, std::string const&));
 QGUI_CHECK_SIGNATURE(View_CurveSamplePopData, int (*)(unsigned int, unsigned int));
-QGUI_CHECK_SIGNATURE(View_CurveSamplePushData, int (*)(unsigned int, std::vector<std::string> const&, std::vector<std::vector<double>> const&));
+QGUI_CHECK_SIGNATURE(View_CurveSamplePushData,
+    int (*)(unsigned int, std::vector<std::string> const&, std::vector<std::vector<double>> const&));
 QGUI_CHECK_SIGNATURE(View_CurveSampleScale, int (*)(unsigned int, unsigned int, unsigned int));
-QGUI_CHECK_SIGNATURE(View_CurveSampleUpdateData, int (*)(unsigned int, std::vector<unsigned int> const&, std::vector<std::string> const&, std::vector<std::vector<double>> const&, unsigned int, bool));
+QGUI_CHECK_SIGNATURE(View_CurveSampleUpdateData,
+    int (*)(unsigned int, std::vector<unsigned int> const&, std::vector<std::string> const&,
+        std::vector<std::vector<double>> const&, unsigned int, bool));
 QGUI_CHECK_SIGNATURE(View_CurveSampleUpdateDataLabel, int (*)(unsigned int, std::vector<std::string> const&));
 QGUI_CHECK_SIGNATURE(View_CurveSampleUpdateDataLimit, int (*)(unsigned int, int, unsigned char, double*));
 QGUI_CHECK_SIGNATURE(View_CurveSampleResumeRealMode, int (*)(unsigned int));
@@ -179,13 +184,17 @@ QGUI_CHECK_SIGNATURE(View_RestoreCurveSampleSearchState, int (*)(unsigned int));
 QGUI_CHECK_SIGNATURE(View_CreateCurveXy, int (*)(View_CurveXy const*, unsigned int));
 QGUI_CHECK_SIGNATURE(View_CurveXyClearData, int (*)(unsigned int, std::vector<unsigned int> const&));
 QGUI_CHECK_SIGNATURE(View_CurveXyShowCursor, int (*)());
-QGUI_CHECK_SIGNATURE(View_CurveXyUpdateData, int (*)(unsigned int, std::vector<unsigned int> const&, std::vector<std::list<FPoint>> const&));
+QGUI_CHECK_SIGNATURE(View_CurveXyUpdateData,
+    int (*)(unsigned int, std::vector<unsigned int> const&, std::vector<std::list<FPoint>> const&));
 QGUI_CHECK_SIGNATURE(View_CurveXyUpdateXLabel, int (*)(unsigned int, std::vector<std::string> const&));
 QGUI_CHECK_SIGNATURE(View_CurveXyUpdateYLabel, int (*)(unsigned int, std::vector<std::string> const&));
 QGUI_CHECK_SIGNATURE(View_CurveEnableCursor, int (*)(unsigned int, bool));
-QGUI_CHECK_SIGNATURE(View_CurveSampleShowCursor, int (*)(unsigned int, std::string const&, std::vector<std::pair<unsigned short, std::string> > const&));
-QGUI_CHECK_SIGNATURE(View_CurveUpdateCursorContent, int (*)(unsigned int, char const*, std::vector<std::vector<View_ListColData>> const&));
-QGUI_CHECK_SIGNATURE(View_CurveUpdateCursorParams, int (*)(unsigned int, std::vector<View_Text> const&, std::vector<Font*> const&));
+QGUI_CHECK_SIGNATURE(View_CurveSampleShowCursor,
+    int (*)(unsigned int, std::string const&, std::vector<std::pair<unsigned short, std::string>> const&));
+QGUI_CHECK_SIGNATURE(View_CurveUpdateCursorContent,
+    int (*)(unsigned int, char const*, std::vector<std::vector<View_ListColData>> const&));
+QGUI_CHECK_SIGNATURE(View_CurveUpdateCursorParams,
+    int (*)(unsigned int, std::vector<View_Text> const&, std::vector<Font*> const&));
 QGUI_CHECK_SIGNATURE(View_CurveUpdateCursorTitle, int (*)(unsigned int, View_Text const&));
 QGUI_CHECK_SIGNATURE(View_ExtDevEject, int (*)(int));
 QGUI_CHECK_SIGNATURE(View_PopupExtDevPlugin, int (*)(unsigned int, int));
@@ -195,12 +204,14 @@ QGUI_CHECK_SIGNATURE(View_PopupPKGFileExplorer, int (*)(unsigned int, int));
 QGUI_CHECK_SIGNATURE(View_ClosePdfWriter, int (*)(unsigned int));
 QGUI_CHECK_SIGNATURE(View_CreatePdf, int (*)(View_Pdf const*, unsigned int));
 QGUI_CHECK_SIGNATURE(View_CreatePdfWriter, int (*)(unsigned int, char const*));
-QGUI_CHECK_SIGNATURE(View_Export2File, int (*)(void*, std::function<void (void*)>));
+QGUI_CHECK_SIGNATURE(View_Export2File, int (*)(void*, std::function<void(void*)>));
 QGUI_CHECK_SIGNATURE(View_PdfSetDisplayMode, int (*)(unsigned int, int));
 QGUI_CHECK_SIGNATURE(View_PdfSwitchPage, int (*)(unsigned int, unsigned int));
 QGUI_CHECK_SIGNATURE(View_PdfUpdateFile, int (*)(unsigned int, char const*));
 QGUI_CHECK_SIGNATURE(View_PdfZoom, int (*)(unsigned int, unsigned int));
-QGUI_CHECK_SIGNATURE(View_Write2Pdf, int (*)(unsigned int, std::vector<std::string> const&, std::vector<std::vector<std::string>> const&, bool));
+QGUI_CHECK_SIGNATURE(View_Write2Pdf,
+    int (*)(
+        unsigned int, std::vector<std::string> const&, std::vector<std::vector<std::string>> const&, bool));
 QGUI_CHECK_SIGNATURE(View_CreateCameraIP, int (*)(View_CameraIP const*, unsigned int));
 QGUI_CHECK_SIGNATURE(View_CreateCameraUSB, int (*)(View_CameraUSB const*, unsigned int));
 QGUI_CHECK_SIGNATURE(View_CreateMediaPlayer, int (*)(View_MediaPlayer const*, unsigned int));
@@ -235,10 +246,12 @@ struct DialWithTimeLabels : ScaleCircle, ScaleTime {
 };
 } // namespace
 static_assert(std::is_polymorphic<ScaleCircle>::value && std::is_polymorphic<ScaleTime>::value,
-              "scale classes are polymorphic");
-static_assert(std::has_virtual_destructor<ScaleCircle>::value && std::has_virtual_destructor<ScaleTime>::value,
-              "scale classes are deleted through base pointers");
-static_assert(std::is_base_of<ScaleBase, DialWithTimeLabels>::value && !std::is_abstract<DialWithTimeLabels>::value,
-              "a class deriving from both scales shares one ScaleBase");
+    "scale classes are polymorphic");
+static_assert(
+    std::has_virtual_destructor<ScaleCircle>::value && std::has_virtual_destructor<ScaleTime>::value,
+    "scale classes are deleted through base pointers");
+static_assert(
+    std::is_base_of<ScaleBase, DialWithTimeLabels>::value && !std::is_abstract<DialWithTimeLabels>::value,
+    "a class deriving from both scales shares one ScaleBase");
 static_assert(!std::is_abstract<ScaleCircle>::value && !std::is_abstract<ScaleTime>::value,
-              "both scales can be used as they are");
+    "both scales can be used as they are");

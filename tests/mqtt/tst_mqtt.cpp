@@ -49,8 +49,7 @@ bool hasEvent(unsigned handle, int code, int value)
 }
 
 /* A subscriber of the test: mosquitto_sub, waiting for \a count messages. */
-class Subscriber
-{
+class Subscriber {
 public:
     Subscriber(MosquittoBroker* broker, const QString& topic, int qos, int count)
         : m_broker(broker)
@@ -58,9 +57,9 @@ public:
         const quint16 port = broker->port();
         m_p.setProcessChannelMode(QProcess::MergedChannels);
         m_p.start(QStringLiteral("mosquitto_sub"),
-                  {QStringLiteral("-h"), QStringLiteral("127.0.0.1"), QStringLiteral("-p"), QString::number(port),
-                   QStringLiteral("-t"), topic, QStringLiteral("-q"), QString::number(qos), QStringLiteral("-C"),
-                   QString::number(count), QStringLiteral("-v"), QStringLiteral("-i"), m_id});
+            { QStringLiteral("-h"), QStringLiteral("127.0.0.1"), QStringLiteral("-p"), QString::number(port),
+                QStringLiteral("-t"), topic, QStringLiteral("-q"), QString::number(qos), QStringLiteral("-C"),
+                QString::number(count), QStringLiteral("-v"), QStringLiteral("-i"), m_id });
     }
     ~Subscriber()
     {
@@ -93,10 +92,10 @@ private:
 };
 
 MqttConnectPrm prm(const QByteArray& host, quint16 port, const char* user = nullptr,
-                   const char* password = nullptr, const char* clientId = nullptr, bool longConnect = true,
-                   U16 keepAlive = 30, short version = 4)
+    const char* password = nullptr, const char* clientId = nullptr, bool longConnect = true,
+    U16 keepAlive = 30, short version = 4)
 {
-    MqttConnectPrm p{};
+    MqttConnectPrm p {};
     p.hostName = host.constData();
     p.userName = user;
     p.password = password;
@@ -112,8 +111,7 @@ const QByteArray kLocalhost("127.0.0.1");
 
 } // namespace
 
-class tst_Mqtt : public QObject
-{
+class tst_Mqtt : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase();
@@ -182,7 +180,7 @@ void tst_Mqtt::connect_reports_connecting_then_connected_and_publishes()
     QCOMPARE(Mqtt_CheckState(h), 0);
     Mqtt_Connect(h, prm(kLocalhost, m_broker->port(), nullptr, nullptr, "panel-a", true, 30, short(version)));
     QTRY_VERIFY_WITH_TIMEOUT(hasEvent(h, kState, 2), 10000);
-    const QList<QPair<int, int>> expected{{kState, 1}, {kState, 2}};
+    const QList<QPair<int, int>> expected { { kState, 1 }, { kState, 2 } };
     QCOMPARE(eventsOf(h), expected);
     QCOMPARE(Mqtt_CheckState(h), 2);
 
@@ -202,7 +200,7 @@ void tst_Mqtt::wrong_credentials_report_an_error_until_the_right_ones_connect()
     QTRY_VERIFY_WITH_TIMEOUT(!eventsOf(h).isEmpty() && eventsOf(h).last() == qMakePair(kState, 0), 10000);
     const int error = m_recorder.eventsWithCode(kError).value(0).intAt(1);
     QVERIFY2(error == MQTT_ERR_BAD_USERNAME_OR_PASSWORD || error == MQTT_ERR_NOT_AUTHORIZED,
-             qPrintable(QString::number(error)));
+        qPrintable(QString::number(error)));
     QCOMPARE(Mqtt_CheckState(h), 0);
 
     m_recorder.clear();
@@ -236,7 +234,8 @@ void tst_Mqtt::short_connection_is_not_retried_but_reconnects_on_request()
     Mqtt_Connect(h, prm(kLocalhost, m_broker->port(), nullptr, nullptr, nullptr, false));
     QTRY_VERIFY_WITH_TIMEOUT(hasEvent(h, kState, 2), 10000);
     m_broker->stop();
-    QTRY_VERIFY_WITH_TIMEOUT(hasEvent(h, kState, 0) && hasEvent(h, kError, MQTT_ERR_TRANSPORT_INVALID), 10000);
+    QTRY_VERIFY_WITH_TIMEOUT(
+        hasEvent(h, kState, 0) && hasEvent(h, kError, MQTT_ERR_TRANSPORT_INVALID), 10000);
     QVERIFY2(m_broker->start(), qPrintable(m_broker->lastError()));
     QTest::qWait(1500); // a long connection would be back by now
     QCOMPARE(Mqtt_CheckState(h), 0);
@@ -278,7 +277,8 @@ void tst_Mqtt::keep_alive_reaches_the_broker()
     QFETCH(int, used);
     const QByteArray id = "ka-" + QByteArray(QTest::currentDataTag()).replace(' ', '_').replace(',', '_');
     const unsigned h = Mqtt_CreateClient();
-    Mqtt_Connect(h, prm(kLocalhost, m_broker->port(), nullptr, nullptr, id.constData(), longConnect, U16(given)));
+    Mqtt_Connect(
+        h, prm(kLocalhost, m_broker->port(), nullptr, nullptr, id.constData(), longConnect, U16(given)));
     QTRY_VERIFY_WITH_TIMEOUT(hasEvent(h, kState, 2), 10000);
     QCOMPARE(QMqtt_App::instance()->client(h)->keepAlive(), used);
     // the broker logs "New client connected from ... as <id> (p2, c1, k<keep-alive>)"
@@ -345,7 +345,7 @@ void tst_Mqtt::bad_input_is_refused_without_harm()
     QTRY_VERIFY_WITH_TIMEOUT(hasEvent(h, kError, MQTT_ERR_INVALID_PROTOCOL_VERSION), 5000);
     QCOMPARE(Mqtt_CheckState(h), 0);
 
-    MqttConnectPrm bad{};
+    MqttConnectPrm bad {};
     bad.hostName = "no\xff\xfehost";
     bad.userName = "\xc3";
     bad.clientId = "id\xff";

@@ -16,8 +16,7 @@
 
 using GuiQtAdapt::Core;
 
-class tst_PlatformCore : public QObject
-{
+class tst_PlatformCore : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -73,7 +72,7 @@ void tst_PlatformCore::alignment_words_drop_unknown_bits()
     QFETCH(uint, word);
     QFETCH(int, expected);
     QCOMPARE(int(Core::toQAlignment(word)), expected);
-    Font f{};
+    Font f {};
     f.align = word;
     QCOMPARE(Core::toQAlignment(&f), expected);
     QCOMPARE(Core::toQAlignment(static_cast<const Font*>(nullptr)), 0);
@@ -95,7 +94,7 @@ void tst_PlatformCore::fonts_are_clamped_and_null_safe()
     QFETCH(int, expected);
     const QFont def = Core::toQFont(nullptr);
     QVERIFY(def.pixelSize() > 0);
-    Font f{};
+    Font f {};
     f.family = "DejaVu Sans";
     f.pixelSize = pixelSize;
     f.weight = 700;
@@ -105,7 +104,7 @@ void tst_PlatformCore::fonts_are_clamped_and_null_safe()
     QCOMPARE(q.family(), QString("DejaVu Sans"));
     QVERIFY(q.bold());
     QVERIFY(q.italic());
-    Font bad{};
+    Font bad {};
     bad.family = "\xff\xfe"; // invalid UTF-8 never crashes
     bad.weight = 999999;
     QVERIFY(Core::toQFont(&bad).weight() <= 99);
@@ -116,7 +115,7 @@ void tst_PlatformCore::colours_brushes_and_pens()
     QCOMPARE(Core::toQColor(0xFF112233u), QColor(0x11, 0x22, 0x33));
     QCOMPARE(Core::toQColor(0x80112233u).alpha(), 0x80);
     QCOMPARE(Core::toFontColor(nullptr), QColor(Qt::black));
-    Brush b{BRUSH_SOLID, 0xFF00FF00u, 0, 0};
+    Brush b { BRUSH_SOLID, 0xFF00FF00u, 0, 0 };
     QCOMPARE(Core::toFontColor(&b), QColor(Qt::green));
     QCOMPARE(Core::toQBrush(b, QRectF(0, 0, 10, 10)).color(), QColor(Qt::green));
     b.style = BRUSH_LINEAR;
@@ -127,7 +126,7 @@ void tst_PlatformCore::colours_brushes_and_pens()
     QCOMPARE(Core::toQBrush(b, QRectF()).style(), Qt::SolidPattern);
     b.style = BRUSH_NONE;
     QCOMPARE(Core::toQBrush(b, QRectF()).style(), Qt::NoBrush);
-    Pen p{0xFF0000FFu, 3, PEN_DASH};
+    Pen p { 0xFF0000FFu, 3, PEN_DASH };
     QCOMPARE(Core::toQPen(p).style(), Qt::DashLine);
     QCOMPARE(Core::toQPen(p).width(), 3);
     p.style = 99;
@@ -143,8 +142,8 @@ void tst_PlatformCore::text_and_rectangles()
     QCOMPARE(Core::fromUtf8("a\xff").size(), 2); // invalid byte -> U+FFFD
     QCOMPARE(Core::fromString(" C:\\img\\a.png "), QString("C:/img/a.png"));
     QCOMPARE(Core::toUtf8StdString(QString::fromUtf8("中")), std::string("\xe4\xb8\xad"));
-    QCOMPARE(Core::toQRect(Rect{1, 2, -3, 4}), QRect(1, 2, 0, 4));
-    View_TextLayout l{QGUI_ALIGN_LEFT | QGUI_ALIGN_BOTTOM, 5, 7};
+    QCOMPARE(Core::toQRect(Rect { 1, 2, -3, 4 }), QRect(1, 2, 0, 4));
+    View_TextLayout l { QGUI_ALIGN_LEFT | QGUI_ALIGN_BOTTOM, 5, 7 };
     QCOMPARE(Core::textLayoutRect(&l, QRectF(0, 0, 100, 50)), QRectF(5, 0, 95, 43));
     QCOMPARE(Core::textLayoutRect(nullptr, QRectF(0, 0, 100, 50)), QRectF(0, 0, 100, 50));
     QVERIFY(Core::textLayoutSize("a\nb", QFont()).height() > Core::textLayoutSize("a", QFont()).height());
@@ -176,7 +175,7 @@ void tst_PlatformCore::event_channel_without_a_call_back()
     QCOMPARE(LogicLayerCaller::call(1, 2, nullptr), 0);
     EventRecorder rec;
     rec.install();
-    int payload[2] = {3, 4};
+    int payload[2] = { 3, 4 };
     LogicLayerCaller::call(9, 1, payload);
     QCOMPARE(rec.count(), 1);
     QCOMPARE(rec.events().first().id, 9u);
@@ -192,11 +191,12 @@ void tst_PlatformCore::modal_popup_blocks_presses_below_data()
     QTest::addColumn<bool>("stillOpen");
     QTest::newRow("modal blocks, mouse") << true << int(XPopup::NoAutoClose) << false << 0 << true;
     QTest::newRow("modal blocks, touch") << true << int(XPopup::NoAutoClose) << true << 0 << true;
-    QTest::newRow("modal closes on outside press") << true << int(XPopup::CloseOnPressOutside) << false << 0
-                                                   << false;
-    QTest::newRow("plain popup lets presses through") << false << int(XPopup::NoAutoClose) << false << 1 << true;
-    QTest::newRow("plain popup closes and passes") << false << int(XPopup::CloseOnPressOutside) << true << 1
-                                                   << false;
+    QTest::newRow("modal closes on outside press")
+        << true << int(XPopup::CloseOnPressOutside) << false << 0 << false;
+    QTest::newRow("plain popup lets presses through")
+        << false << int(XPopup::NoAutoClose) << false << 1 << true;
+    QTest::newRow("plain popup closes and passes")
+        << false << int(XPopup::CloseOnPressOutside) << true << 1 << false;
 }
 
 void tst_PlatformCore::modal_popup_blocks_presses_below()
@@ -210,7 +210,8 @@ void tst_PlatformCore::modal_popup_blocks_presses_below()
     QQuickView view;
     QQmlComponent c(view.engine());
     c.setData("import QtQuick 2.15\nRectangle { width: 400; height: 300; property int presses: 0\n"
-              " MouseArea { anchors.fill: parent; onPressed: parent.presses++ } }", QUrl());
+              " MouseArea { anchors.fill: parent; onPressed: parent.presses++ } }",
+        QUrl());
     auto* below = qobject_cast<QQuickItem*>(c.create());
     QVERIFY(below);
     below->setParentItem(view.contentItem());
@@ -220,8 +221,8 @@ void tst_PlatformCore::modal_popup_blocks_presses_below()
     popup.setOverlay(&overlay);
     popup.setModal(modal);
     popup.setClosePolicy(XPopup::ClosePolicy(policy));
-    popup.setPosition({50, 50});
-    popup.setSize({100, 80});
+    popup.setPosition({ 50, 50 });
+    popup.setSize({ 100, 80 });
     view.resize(400, 300);
     QVERIFY(TestUtil::waitForFrame(&view));
     QCOMPARE(overlay.size(), QSizeF(400, 300));

@@ -18,8 +18,7 @@ void collect(QtMsgType type, const QMessageLogContext&, const QString& msg)
 }
 } // namespace
 
-class tst_QmlSanity : public QObject
-{
+class tst_QmlSanity : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -31,7 +30,7 @@ private Q_SLOTS:
 void tst_QmlSanity::every_shipped_qml_file_loads_cleanly_data()
 {
     QTest::addColumn<QString>("url");
-    QDirIterator it(":/", {"*.qml"}, QDir::Files, QDirIterator::Subdirectories);
+    QDirIterator it(":/", { "*.qml" }, QDir::Files, QDirIterator::Subdirectories);
     int n = 0;
     while (it.hasNext()) {
         const QString path = it.next();
@@ -48,7 +47,7 @@ void tst_QmlSanity::every_shipped_qml_file_loads_cleanly()
     QFETCH(QString, url);
     QQmlEngine engine;
     QQuickItem host; // a parent, as every component gets one in the panel
-    host.setSize({800, 480});
+    host.setSize({ 800, 480 });
     g_warnings.clear();
     QtMessageHandler old = qInstallMessageHandler(collect);
     QQmlComponent c(&engine, QUrl(url));

@@ -7,8 +7,7 @@
 
 #include "config/qmltypes.h"
 
-class tst_QmlTypes : public QObject
-{
+class tst_QmlTypes : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -37,7 +36,7 @@ QList<tst_QmlTypes::Row> tst_QmlTypes::rows()
         const QStringList w = line.split(QRegularExpression("[:\\s]+"), Qt::SkipEmptyParts);
         if (w.size() < 2)
             qFatal("bad row: %s", qPrintable(line));
-        out.append({w[0], w[1], w.value(2, w[1])});
+        out.append({ w[0], w[1], w.value(2, w[1]) });
     }
     return out;
 }

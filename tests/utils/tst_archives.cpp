@@ -27,8 +27,7 @@ QByteArray u8(const QString& s)
 
 } // namespace
 
-class tst_Archives : public QObject
-{
+class tst_Archives : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase();
@@ -129,16 +128,16 @@ void tst_Archives::path_without_zip_gives_2_without_running_the_packer()
 void tst_Archives::missing_archive_gives_2()
 {
     QCOMPARE(XDZip::unCompress(u8(m_dir->filePath("nothing here.zip")).constData(), nullptr,
-                               u8(m_dir->filePath("out")).constData()),
-             2);
+                 u8(m_dir->filePath("out")).constData()),
+        2);
 }
 
 void tst_Archives::packing_a_missing_source_gives_1()
 {
     const QString archive = m_dir->filePath("empty.zip");
-    QCOMPARE(XDZip::compress(u8(m_dir->filePath("no such file")).constData(), u8(archive).constData(),
-                             nullptr, false),
-             1);
+    QCOMPARE(XDZip::compress(
+                 u8(m_dir->filePath("no such file")).constData(), u8(archive).constData(), nullptr, false),
+        1);
 }
 
 void tst_Archives::delete_source_removes_the_packed_files()

@@ -15,8 +15,8 @@ namespace {
 QByteArray md5(const QByteArray& data)
 {
     QByteArray out(16, '\0');
-    XMD5::get_md5_hash(reinterpret_cast<unsigned char*>(const_cast<char*>(data.constData())),
-                       data.size(), reinterpret_cast<unsigned char*>(out.data()));
+    XMD5::get_md5_hash(reinterpret_cast<unsigned char*>(const_cast<char*>(data.constData())), data.size(),
+        reinterpret_cast<unsigned char*>(out.data()));
     return out;
 }
 
@@ -43,8 +43,7 @@ bool waitForNextSecond()
 
 } // namespace
 
-class tst_PasswordBlocks : public QObject
-{
+class tst_PasswordBlocks : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void md5_matches_the_rfc1321_test_suite_data();
@@ -75,9 +74,9 @@ void tst_PasswordBlocks::md5_matches_the_rfc1321_test_suite_data()
                                     << QByteArray("f96b697d7cb7938d525a2f31aaf161d0");
     QTest::newRow("alphabet") << QByteArray("abcdefghijklmnopqrstuvwxyz")
                               << QByteArray("c3fcd3d76192e4007dfb496cca67e13b");
-    QTest::newRow("alphanumeric")
-        << QByteArray("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789")
-        << QByteArray("d174ab98d277d9f5a5611c2c9f419d9f");
+    QTest::newRow("alphanumeric") << QByteArray(
+        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789")
+                                  << QByteArray("d174ab98d277d9f5a5611c2c9f419d9f");
     QTest::newRow("digits x8") << QByteArray("1234567890").repeated(8)
                                << QByteArray("57edf4a22be3c955ac49da2e2107b67a");
 }
@@ -93,7 +92,7 @@ void tst_PasswordBlocks::md5_matches_qcryptographichash_on_random_data_data()
 {
     QTest::addColumn<int>("length");
     // around the padding boundaries (55/56/64 bytes) and a large input
-    for (int n : {1, 15, 55, 56, 57, 63, 64, 65, 119, 120, 127, 128, 1000, 1 << 20})
+    for (int n : { 1, 15, 55, 56, 57, 63, 64, 65, 119, 120, 127, 128, 1000, 1 << 20 })
         QTest::newRow(qPrintable(QString::number(n))) << n;
 }
 
@@ -127,7 +126,7 @@ void tst_PasswordBlocks::md5_append_in_pieces_equals_one_shot()
 void tst_PasswordBlocks::md5_bad_arguments_hash_nothing_and_do_not_crash()
 {
     const QByteArray empty = QByteArray::fromHex("d41d8cd98f00b204e9800998ecf8427e");
-    unsigned char data[3] = {'a', 'b', 'c'};
+    unsigned char data[3] = { 'a', 'b', 'c' };
     QByteArray out(16, '\0');
     auto* o = reinterpret_cast<unsigned char*>(out.data());
     XMD5::get_md5_hash(nullptr, 5, o);
@@ -148,10 +147,10 @@ void tst_PasswordBlocks::block_of_a_password_passes_and_others_fail_data()
     QTest::newRow("not any character") << QByteArray("abc") << QByteArray("abc   ") << 0;
     QTest::newRow("empty is fifteen zeros") << QByteArray("") << QByteArray("000000000000000") << 1;
     QTest::newRow("empty is not zero") << QByteArray("") << QByteArray("1") << 0;
-    QTest::newRow("16th character ignored") << QByteArray("abcdefghijklmnoX")
-                                            << QByteArray("abcdefghijklmnoY") << 1;
-    QTest::newRow("15th character counts") << QByteArray("abcdefghijklmnX")
-                                           << QByteArray("abcdefghijklmnY") << 0;
+    QTest::newRow("16th character ignored")
+        << QByteArray("abcdefghijklmnoX") << QByteArray("abcdefghijklmnoY") << 1;
+    QTest::newRow("15th character counts")
+        << QByteArray("abcdefghijklmnX") << QByteArray("abcdefghijklmnY") << 0;
     QTest::newRow("utf-8") << QByteArray("密码口令") << QByteArray("密码口令") << 1;
 }
 
@@ -202,7 +201,7 @@ void tst_PasswordBlocks::decrypt_recovers_the_digest_of_the_normalised_password(
     const QByteArray b = block("abc");
     QByteArray digest(16, '\0');
     XMD5::decrypt_hash(reinterpret_cast<unsigned char*>(digest.data()),
-                       reinterpret_cast<const unsigned char*>(b.constData()));
+        reinterpret_cast<const unsigned char*>(b.constData()));
     QCOMPARE(digest, md5("abc000000000000"));
 }
 
@@ -211,7 +210,7 @@ void tst_PasswordBlocks::i2c_blocks_are_ordinary_blocks()
     const QByteArray digest = md5("plc-user0000000");
     QByteArray b(64, '\0');
     XMD5::i2c_encrypt_hash(reinterpret_cast<const unsigned char*>(digest.constData()),
-                           reinterpret_cast<unsigned char*>(b.data()));
+        reinterpret_cast<unsigned char*>(b.data()));
     QCOMPARE(check("plc-user", b), 1);
 }
 

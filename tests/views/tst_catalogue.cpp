@@ -5,8 +5,7 @@
 #include <QSet>
 #include <QtTest>
 
-class tst_Catalogue : public QObject
-{
+class tst_Catalogue : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -20,7 +19,7 @@ void tst_Catalogue::every_catalogue_entry_is_exported()
     QFile cat(source + "/tests/catalogue/catalogue.txt");
     QVERIFY2(cat.open(QIODevice::ReadOnly), qPrintable(cat.fileName()));
     QProcess nm;
-    nm.start("nm", {"-DC", "--defined-only", build + "/libqgui.so"});
+    nm.start("nm", { "-DC", "--defined-only", build + "/libqgui.so" });
     QVERIFY(nm.waitForFinished(30000));
     QCOMPARE(nm.exitCode(), 0);
     QSet<QString> symbols;

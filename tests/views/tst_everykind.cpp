@@ -51,8 +51,7 @@ qint64 longestCycleGap(const std::function<void()>& work)
 
 } // namespace
 
-class tst_EveryKind : public QObject
-{
+class tst_EveryKind : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -68,12 +67,12 @@ private Q_SLOTS:
     void megabyte_texts_never_stop_the_cycle();
 
 private:
-    int create(Kind kind, unsigned id, Rect r = Rect{20, 20, 160, 60}, const char* text = "caption",
-               const Font* font = nullptr);
+    int create(Kind kind, unsigned id, Rect r = Rect { 20, 20, 160, 60 }, const char* text = "caption",
+        const Font* font = nullptr);
 
     PanelFixture m_panel;
     EventRecorder m_rec;
-    Font m_font{"DejaVu Sans", 18, 400, 0, 0, 0, 0, 0xFF000000u, QGUI_ALIGN_LEFT};
+    Font m_font { "DejaVu Sans", 18, 400, 0, 0, 0, 0, 0xFF000000u, QGUI_ALIGN_LEFT };
     const unsigned A = PanelFixture::wid(1, 1);
 };
 
@@ -83,7 +82,7 @@ void tst_EveryKind::init()
     m_rec.install();
     m_rec.clear();
     Utils::resetAssertCount();
-    QCOMPARE(m_panel.switchWindow(A, Rect{0, 0, 800, 480}), 0);
+    QCOMPARE(m_panel.switchWindow(A, Rect { 0, 0, 800, 480 }), 0);
 }
 
 void tst_EveryKind::cleanup()
@@ -96,19 +95,19 @@ int tst_EveryKind::create(Kind kind, unsigned id, Rect r, const char* text, cons
     const Font* f = font ? font : &m_font;
     switch (kind) {
     case Text: {
-        View_Text rec{0, r, id, text, f, nullptr};
+        View_Text rec { 0, r, id, text, f, nullptr };
         return View_CreateText(&rec, A);
     }
     case Button: {
-        View_ImageText rec{0, r, id, nullptr, text, f, nullptr};
+        View_ImageText rec { 0, r, id, nullptr, text, f, nullptr };
         return View_CreateButton(&rec, A);
     }
     case QrCode: {
-        View_QRCode rec{0, r, id, 1, 0xFF000000u, 0xFFFFFFFFu};
+        View_QRCode rec { 0, r, id, 1, 0xFF000000u, 0xFFFFFFFFu };
         return View_CreateQRCode(&rec, A);
     }
     case Placeholder: {
-        View_CameraIP rec{};
+        View_CameraIP rec {};
         rec.rect = r;
         rec.id = id;
         return View_CreateCameraIP(&rec, A);
@@ -130,7 +129,8 @@ void tst_EveryKind::show_and_hide_by_type_data()
     const struct {
         const char* name;
         Kind kind;
-    } kinds[] = {{"static text", Text}, {"button", Button}, {"QR code", QrCode}, {"placeholder", Placeholder}};
+    } kinds[] = { { "static text", Text }, { "button", Button }, { "QR code", QrCode },
+        { "placeholder", Placeholder } };
     for (const auto& k : kinds) {
         QTest::addRow("%s, whole", k.name) << int(k.kind) << 0 << 0 << false;
         QTest::addRow("%s, picture", k.name) << int(k.kind) << 1 << 0 << true;
@@ -188,13 +188,13 @@ void tst_EveryKind::font_colour_recolours_every_kind_that_shows_text()
     else if (auto* b = qobject_cast<XButton*>(item))
         label = b->textItem()->mainLabel();
     QVERIFY(label);
-    const Brush green{BRUSH_SOLID, 0xFF00C000u, 0, 0};
+    const Brush green { BRUSH_SOLID, 0xFF00C000u, 0, 0 };
     QCOMPARE(View_ChangeFontColor(11, &green), 0);
     QCOMPARE(label->color(), QColor(0, 0xC0, 0));
 
     // grey wins while set; the colour comes back with it cleared
     QCOMPARE(View_SetDisableFlag(11, 4), 0);
-    const Brush blue{BRUSH_SOLID, 0xFF0000FFu, 0, 0};
+    const Brush blue { BRUSH_SOLID, 0xFF0000FFu, 0, 0 };
     QCOMPARE(View_ChangeFontColor(11, &blue), 0);
     QCOMPARE(label->color(), QColor("gray"));
     QCOMPARE(View_ClrDisableFlag(11, 4), 0);
@@ -214,7 +214,7 @@ void tst_EveryKind::enormous_sizes_keep_their_geometry_but_not_their_memory()
     QFETCH(int, side);
     QQuickWindow* window = m_panel.view();
     const QSize cap = window->size() * window->effectiveDevicePixelRatio();
-    const Rect huge{0, 0, side, side};
+    const Rect huge { 0, 0, side, side };
 
     // every painted kind: the placeholder, a window's background and a popup's title bar
     QCOMPARE(create(Placeholder, 20, huge), 0);
@@ -238,24 +238,24 @@ void tst_EveryKind::enormous_sizes_keep_their_geometry_but_not_their_memory()
             continue;
         ++huges;
         QVERIFY2(p->textureSize().width() <= cap.width() && p->textureSize().height() <= cap.height(),
-                 p->metaObject()->className());
+            p->metaObject()->className());
     }
     QVERIFY(huges >= 1);
 
-    Rect r{};
+    Rect r {};
     QCOMPARE(View_GetWgtRect(20, r), 0);
     QCOMPARE(r.width, side);
     QCOMPARE(r.height, side);
     QCOMPARE(XBasePaintedItem::cappedTextureSize(QSizeF(side, side), 2.0, QSize()),
-             QSize(XBasePaintedItem::kMaxTextureSide, XBasePaintedItem::kMaxTextureSide));
+        QSize(XBasePaintedItem::kMaxTextureSide, XBasePaintedItem::kMaxTextureSide));
 }
 
 void tst_EveryKind::megabyte_texts_never_stop_the_cycle_data()
 {
     QTest::addColumn<QString>("path");
-    const QStringList paths{"text",         "text content",   "button caption", "window title",
-                            "font family",  "huge text box"};
-    const QStringList contents{"ASCII", "UTF-8"};
+    const QStringList paths { "text", "text content", "button caption", "window title", "font family",
+        "huge text box" };
+    const QStringList contents { "ASCII", "UTF-8" };
     for (const QString& p : paths) {
         for (const QString& c : contents)
             QTest::addRow("%s, %s", qPrintable(p), qPrintable(c)) << p + '|' + c;
@@ -277,7 +277,7 @@ void tst_EveryKind::megabyte_texts_never_stop_the_cycle()
     const QByteArray family = QByteArray(1 << 20, 'F');
     if (what == "font family")
         font.family = family.constData();
-    const Rect box = what == "huge text box" ? Rect{0, 0, 100000, 100000} : Rect{20, 20, 400, 60};
+    const Rect box = what == "huge text box" ? Rect { 0, 0, 100000, 100000 } : Rect { 20, 20, 400, 60 };
 
     const qint64 gap = longestCycleGap([&] {
         if (what == "text" || what == "font family" || what == "huge text box") {
@@ -288,9 +288,9 @@ void tst_EveryKind::megabyte_texts_never_stop_the_cycle()
         } else if (what == "button caption") {
             QCOMPARE(create(Button, 30, box, big.constData(), &font), 0);
         } else if (what == "window title") {
-            QCOMPARE(m_panel.popup(PanelFixture::wid(1, 5), Rect{100, 100, 400, 200}, 10, false, 7,
-                                   big.constData()),
-                     0);
+            QCOMPARE(m_panel.popup(
+                         PanelFixture::wid(1, 5), Rect { 100, 100, 400, 200 }, 10, false, 7, big.constData()),
+                0);
             QCOMPARE(View_ChangeWindowTitle(PanelFixture::wid(1, 5), big.constData()), 0);
         }
     });
@@ -300,8 +300,9 @@ void tst_EveryKind::megabyte_texts_never_stop_the_cycle()
         return;
     // what is shown is cut, and ends in an ellipsis
     QQuickItem* item = ViewManage::getInstance()->getItemById(30);
-    XskTextLabel* label = qobject_cast<XCauseText*>(item) ? qobject_cast<XCauseText*>(item)->mainLabel()
-                                                          : qobject_cast<XButton*>(item)->textItem()->mainLabel();
+    XskTextLabel* label = qobject_cast<XCauseText*>(item)
+        ? qobject_cast<XCauseText*>(item)->mainLabel()
+        : qobject_cast<XButton*>(item)->textItem()->mainLabel();
     if (what == "font family") {
         QVERIFY(label->font().family().size() <= 256);
     } else {

@@ -16,8 +16,7 @@
 #include <QPointer>
 #include <QQuickItem>
 
-class tst_Registry : public QObject
-{
+class tst_Registry : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -36,7 +35,7 @@ private Q_SLOTS:
     void deleting_a_widget_inside_its_own_press_handler();
 
 private:
-    unsigned placeholder(unsigned id, unsigned windowId, Rect r = Rect{10, 20, 30, 40});
+    unsigned placeholder(unsigned id, unsigned windowId, Rect r = Rect { 10, 20, 30, 40 });
 
     PanelFixture m_panel;
     EventRecorder m_rec;
@@ -50,7 +49,7 @@ void tst_Registry::init()
     m_rec.install();
     m_rec.clear();
     Utils::resetAssertCount();
-    QCOMPARE(m_panel.switchWindow(A, Rect{0, 0, 800, 480}), 0);
+    QCOMPARE(m_panel.switchWindow(A, Rect { 0, 0, 800, 480 }), 0);
 }
 
 void tst_Registry::cleanup()
@@ -60,12 +59,11 @@ void tst_Registry::cleanup()
 
 unsigned tst_Registry::placeholder(unsigned id, unsigned windowId, Rect r)
 {
-    View_CameraIP rec{};
+    View_CameraIP rec {};
     rec.rect = r;
     rec.id = id;
     return unsigned(View_CreateCameraIP(&rec, windowId));
 }
-
 
 void tst_Registry::caches_follow_create_close_reparent_and_delete()
 {
@@ -77,7 +75,7 @@ void tst_Registry::caches_follow_create_close_reparent_and_delete()
     QVERIFY(!vm->getItemById(101)->parent()); // owned by the registry, not by its window
     QCOMPARE(vm->getItemById(101)->parentItem(), vm->windowManage()->getWindow(A));
 
-    QCOMPARE(m_panel.popup(P, Rect{100, 100, 300, 200}), 0);
+    QCOMPARE(m_panel.popup(P, Rect { 100, 100, 300, 200 }), 0);
     QCOMPARE(placeholder(201, P), 0u);
     QPointer<QQuickItem> inPopup = vm->getItemById(201);
     QVERIFY(vm->idHash().contains(201));
@@ -100,14 +98,14 @@ void tst_Registry::caches_follow_create_close_reparent_and_delete()
     // switching windows re-sorts the caches by parent
     const unsigned B = PanelFixture::wid(1, 3);
     LifeCycleManager::removeItemParentItem(vm->getItemById(102));
-    QCOMPARE(m_panel.switchWindow(B, Rect{0, 0, 800, 480}), 0);
+    QCOMPARE(m_panel.switchWindow(B, Rect { 0, 0, 800, 480 }), 0);
     QVERIFY(lc->isInvisibleEntry(102));
     QVERIFY(lc->isVisibleEntry(101));
 
     // delete twice: the second time nothing is found and nothing happens
     QPointer<QQuickItem> doomed = vm->getItemById(101);
-    QCOMPARE(View_DeleteWidgets({101}), 0);
-    QCOMPARE(View_DeleteWidgets({101, 4242}), 0);
+    QCOMPARE(View_DeleteWidgets({ 101 }), 0);
+    QCOMPARE(View_DeleteWidgets({ 101, 4242 }), 0);
     QVERIFY(!vm->getItemById(101));
     QVERIFY(doomed); // deletion is deferred
     PanelFixture::settle();
@@ -118,7 +116,7 @@ void tst_Registry::caches_follow_create_close_reparent_and_delete()
 void tst_Registry::closing_a_desktop_caches_its_popup_widgets()
 {
     auto* vm = ViewManage::getInstance();
-    QCOMPARE(m_panel.popup(P, Rect{100, 100, 300, 200}), 0);
+    QCOMPARE(m_panel.popup(P, Rect { 100, 100, 300, 200 }), 0);
     QCOMPARE(placeholder(211, P), 0u);
     QPointer<QQuickItem> item = vm->getItemById(211);
     QCOMPARE(View_CloseDesktop(1), 0);
@@ -138,7 +136,7 @@ void tst_Registry::creation_needs_a_window_and_a_record()
     QCOMPARE(View_CreateCameraIP(nullptr, A), -1);
     QVERIFY(!ViewManage::getInstance()->getItemById(301));
     QVERIFY(!ViewManage::getInstance()->getItemById(302));
-    Rect negative{5, 5, -10, -20};
+    Rect negative { 5, 5, -10, -20 };
     QCOMPARE(placeholder(304, A, negative), 0u);
     QCOMPARE(ViewManage::getInstance()->getItemById(304)->size(), QSizeF(0, 0));
 }
@@ -147,7 +145,7 @@ void tst_Registry::an_id_created_again_replaces_its_widget()
 {
     QCOMPARE(placeholder(401, A), 0u);
     QPointer<QQuickItem> first = ViewManage::getInstance()->getItemById(401);
-    QCOMPARE(placeholder(401, A, Rect{200, 200, 10, 10}), 0u);
+    QCOMPARE(placeholder(401, A, Rect { 200, 200, 10, 10 }), 0u);
     QQuickItem* second = ViewManage::getInstance()->getItemById(401);
     QVERIFY(second != first.data());
     PanelFixture::settle();
@@ -158,8 +156,9 @@ void tst_Registry::an_id_created_again_replaces_its_widget()
 void tst_Registry::show_from_cache_reports_an_unknown_id()
 {
     QCOMPARE(View_ShowWidget(999, 1, ITEM_SLASH_WHOLE), -1);
-    QVERIFY2(Utils::lastAssertLocation().startsWith("\"nullptr != pItem\" in file qgui/views/ViewManage, line "),
-             qPrintable(Utils::lastAssertLocation()));
+    QVERIFY2(
+        Utils::lastAssertLocation().startsWith("\"nullptr != pItem\" in file qgui/views/ViewManage, line "),
+        qPrintable(Utils::lastAssertLocation()));
     Utils::resetAssertCount();
     QCOMPARE(View_ShowWidget(999, 0, ITEM_SLASH_WHOLE), 0);
     QCOMPARE(Utils::assertCount(), 0);
@@ -198,26 +197,52 @@ void tst_Registry::unknown_ids_give_their_fixed_results()
     QFETCH(int, expected);
     QFETCH(bool, asserts);
     const unsigned id = 0xFFFFFFFFu;
-    Rect r{1, 2, 3, 4};
+    Rect r { 1, 2, 3, 4 };
     int result = 12345;
     switch (call) {
-    case 0: result = View_DeleteWidgets({id, 0}); break;
-    case 1: result = View_HideWidget(id, ITEM_SLASH_SLASH); break;
-    case 2: result = View_MoveWidget(id, 1, 1); break;
-    case 3: result = View_ChangeOpacity(id, 50); break;
-    case 4: result = View_SetDisableFlag(id, 6); break;
-    case 5: result = View_ClrDisableFlag(id, 6); break;
-    case 6: result = View_SetBusy(id); break;
-    case 7: result = View_ClrBusy(id); break;
-    case 8: result = View_SetInputMode(id, true); break;
-    case 9: result = View_ClrInputFlag(id); break;
+    case 0:
+        result = View_DeleteWidgets({ id, 0 });
+        break;
+    case 1:
+        result = View_HideWidget(id, ITEM_SLASH_SLASH);
+        break;
+    case 2:
+        result = View_MoveWidget(id, 1, 1);
+        break;
+    case 3:
+        result = View_ChangeOpacity(id, 50);
+        break;
+    case 4:
+        result = View_SetDisableFlag(id, 6);
+        break;
+    case 5:
+        result = View_ClrDisableFlag(id, 6);
+        break;
+    case 6:
+        result = View_SetBusy(id);
+        break;
+    case 7:
+        result = View_ClrBusy(id);
+        break;
+    case 8:
+        result = View_SetInputMode(id, true);
+        break;
+    case 9:
+        result = View_ClrInputFlag(id);
+        break;
     case 10:
         result = View_GetWgtRect(id, r);
         QCOMPARE(r.width, 3); // untouched
         break;
-    case 11: result = View_SetWidgetParent(id, PanelFixture::wid(1, 99)); break;
-    case 12: result = View_SetWidgetParent(id, A); break;
-    case 13: result = View_ShowWidget(id, 0, ItemSlashType(77)); break;
+    case 11:
+        result = View_SetWidgetParent(id, PanelFixture::wid(1, 99));
+        break;
+    case 12:
+        result = View_SetWidgetParent(id, A);
+        break;
+    case 13:
+        result = View_ShowWidget(id, 0, ItemSlashType(77));
+        break;
     }
     QCOMPARE(result, expected);
     QCOMPARE(Utils::assertCount() > 0, asserts);
@@ -257,13 +282,13 @@ void tst_Registry::disable_flags()
 
 void tst_Registry::opacity_rectangle_and_move()
 {
-    QCOMPARE(placeholder(701, A, Rect{10, 20, 30, 40}), 0u);
+    QCOMPARE(placeholder(701, A, Rect { 10, 20, 30, 40 }), 0u);
     QQuickItem* item = ViewManage::getInstance()->getItemById(701);
     QCOMPARE(View_ChangeOpacity(701, 50), 0);
     QCOMPARE(item->opacity(), 0.5);
     QCOMPARE(View_ChangeOpacity(701, 255), 0);
     QCOMPARE(item->opacity(), 1.0);
-    Rect r{};
+    Rect r {};
     QCOMPARE(View_GetWgtRect(701, r), 0);
     QCOMPARE(r.x, 10);
     QCOMPARE(r.y, 20);
@@ -285,7 +310,7 @@ ErrRet deleteOnPress(unsigned id, int code, void* data)
 {
     EventRecorder::callBack(id, code, data);
     if (code == EVT_WIDGET_PRESS && id != 0) {
-        View_DeleteWidgets({id}); // the logic layer deletes the widget from inside its own event
+        View_DeleteWidgets({ id }); // the logic layer deletes the widget from inside its own event
         g_validAfterDelete = !g_pressed.isNull() && g_pressed->getId() == id;
     }
     return 0;

@@ -5,8 +5,8 @@
 #include "common/guiapptestmain.h"
 #include "common/panelfixture.h"
 
-#include "platform/xoverlay.h"
 #include "app/xquickview.h"
+#include "platform/xoverlay.h"
 #include "views/presswatcher.h"
 #include "views/qmlwindowmanage.h"
 #include "views/viewmanage.h"
@@ -21,8 +21,7 @@
 
 #include <thread>
 
-class tst_Windows : public QObject
-{
+class tst_Windows : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -55,7 +54,7 @@ void tst_Windows::init()
 {
     QVERIFY(m_panel.start());
     m_rec.install();
-    QCOMPARE(m_panel.switchWindow(A, Rect{0, 0, 800, 480}), 0);
+    QCOMPARE(m_panel.switchWindow(A, Rect { 0, 0, 800, 480 }), 0);
     m_rec.clear();
 }
 
@@ -63,7 +62,6 @@ void tst_Windows::cleanup()
 {
     m_panel.stop();
 }
-
 
 void tst_Windows::title_bar_reports_and_never_closes_by_itself_data()
 {
@@ -82,7 +80,7 @@ void tst_Windows::title_bar_reports_and_never_closes_by_itself()
     QFETCH(int, button);
     QFETCH(bool, touch);
     QFETCH(int, code);
-    QCOMPARE(m_panel.popup(P, Rect{100, 80, 400, 250}), 0);
+    QCOMPARE(m_panel.popup(P, Rect { 100, 80, 400, 250 }), 0);
     XLumoDialog* d = dialog(P);
     QVERIFY(d && d->isOpened());
     auto* bar = qobject_cast<WindowTitile*>(d->header());
@@ -103,7 +101,7 @@ void tst_Windows::title_bar_reports_and_never_closes_by_itself()
 
 void tst_Windows::dragging_the_title_moves_a_movable_popup()
 {
-    QCOMPARE(m_panel.popup(P, Rect{100, 80, 400, 250}), 0);
+    QCOMPARE(m_panel.popup(P, Rect { 100, 80, 400, 250 }), 0);
     XLumoDialog* d = dialog(P);
     const QPoint start = m_panel.scenePoint(d->header(), QPointF(60, 20));
     QTest::mousePress(m_panel.view(), Qt::LeftButton, Qt::NoModifier, start);
@@ -138,7 +136,7 @@ void tst_Windows::dimming_blocks_presses_but_reports_them()
     QFETCH(int, percent);
     QFETCH(int, alpha);
     QFETCH(bool, touch);
-    XBaseControl* c = PanelFixture::control(11, A, {300, 200});
+    XBaseControl* c = PanelFixture::control(11, A, { 300, 200 });
     QCOMPARE(View_SetLight(percent), 0);
     XPopup* lighter = ViewManage::getInstance()->windowManage()->lighter(1);
     QVERIFY(lighter);
@@ -161,7 +159,7 @@ void tst_Windows::dimming_blocks_presses_but_reports_them()
 
 void tst_Windows::window_hands_presses_to_the_widget_under_the_finger()
 {
-    XBaseControl* under = PanelFixture::control(21, A, {100, 100});
+    XBaseControl* under = PanelFixture::control(21, A, { 100, 100 });
     XWindow* win = ViewManage::getInstance()->windowManage()->findWindow(A);
     QVERIFY(win);
     m_rec.clear();
@@ -174,20 +172,20 @@ void tst_Windows::window_hands_presses_to_the_widget_under_the_finger()
     QCOMPARE(events[0].id, 21u);
     QCOMPARE(events[1].code, int(EVT_WIDGET_RELEASE));
 
-    QCOMPARE(m_panel.popup(P, Rect{300, 100, 300, 200}), 0);
+    QCOMPARE(m_panel.popup(P, Rect { 300, 100, 300, 200 }), 0);
     XLumoDialog* d = dialog(P);
     QQuickItem* content = ViewManage::getInstance()->windowManage()->getWindow(P);
     auto* inPopup = new XBaseControl(content);
     inPopup->setId(22);
-    inPopup->setSize({50, 50});
+    inPopup->setSize({ 50, 50 });
     ViewManage::getInstance()->appendItem(22, inPopup);
     QCOMPARE(d->pressHandler(QPointF(10, 50), nullptr), 22u); // below the 40-pixel title
 }
 
 void tst_Windows::modal_popup_keeps_presses_from_the_window()
 {
-    XBaseControl* c = PanelFixture::control(31, A, {20, 400});
-    QCOMPARE(m_panel.popup(P, Rect{200, 100, 300, 200}, 10, true), 0);
+    XBaseControl* c = PanelFixture::control(31, A, { 20, 400 });
+    QCOMPARE(m_panel.popup(P, Rect { 200, 100, 300, 200 }, 10, true), 0);
     m_rec.clear();
     m_panel.click(m_panel.sceneCenter(c));
     QCOMPARE(m_rec.count(EVT_PRESS), 1); // the panel press is still reported
@@ -227,12 +225,12 @@ void tst_Windows::busy_bar_starts_and_stops()
 void tst_Windows::windows_switch_and_report_geometry()
 {
     const unsigned B = PanelFixture::wid(1, 2);
-    QCOMPARE(m_panel.switchWindow(B, Rect{10, 20, 300, 200}), 0);
+    QCOMPARE(m_panel.switchWindow(B, Rect { 10, 20, 300, 200 }), 0);
     QmlWindowManage* wm = ViewManage::getInstance()->windowManage();
     QCOMPARE(wm->currentWindow(), static_cast<QQuickItem*>(wm->findWindow(B)));
-    QCOMPARE(m_panel.switchWindow(A, Rect{0, 0, 800, 480}), 0); // back to an open window
+    QCOMPARE(m_panel.switchWindow(A, Rect { 0, 0, 800, 480 }), 0); // back to an open window
     QCOMPARE(wm->currentWindow(), static_cast<QQuickItem*>(wm->findWindow(A)));
-    Rect r{};
+    Rect r {};
     QCOMPARE(View_GetWindowRect(B, r), 0);
     QCOMPARE(r.x, 10);
     QCOMPARE(r.width, 300);
@@ -243,7 +241,7 @@ void tst_Windows::windows_switch_and_report_geometry()
     int h = -1;
     QCOMPARE(View_GetTitleBarHeight(B, h), 0);
     QCOMPARE(h, 0); // a window has no title bar
-    QCOMPARE(m_panel.popup(P + 10, Rect{0, 0, 200, 100}), 0);
+    QCOMPARE(m_panel.popup(P + 10, Rect { 0, 0, 200, 100 }), 0);
     QCOMPARE(View_GetTitleBarHeight(P + 10, h), 0);
     QCOMPARE(h, 40);
     QCOMPARE(View_ChangeWindowTitle(P + 10, "new title"), 0);
@@ -256,7 +254,7 @@ void tst_Windows::windows_switch_and_report_geometry()
 void tst_Windows::unknown_windows_give_their_fixed_results()
 {
     const unsigned none = PanelFixture::wid(1, 999);
-    Rect r{7, 7, 7, 7};
+    Rect r { 7, 7, 7, 7 };
     int h = 99;
     QCOMPARE(View_ShowWindow(none, true), -1);
     QCOMPARE(View_HideWindow(none), View_ShowWindow(none, false));
@@ -272,9 +270,9 @@ void tst_Windows::unknown_windows_give_their_fixed_results()
     QCOMPARE(View_HideDesktop(42), 0);
     QCOMPARE(View_CloseDesktop(42), 0);
     QCOMPARE(View_CloseWindow(none), -1);
-    QCOMPARE(m_panel.popup(PanelFixture::wid(42, 1), Rect{0, 0, 10, 10}), 0); // no such desktop
+    QCOMPARE(m_panel.popup(PanelFixture::wid(42, 1), Rect { 0, 0, 10, 10 }), 0); // no such desktop
     QVERIFY(!dialog(PanelFixture::wid(42, 1)));
-    QCOMPARE(m_panel.switchWindow(PanelFixture::wid(42, 1), Rect{0, 0, 10, 10}), -1);
+    QCOMPARE(m_panel.switchWindow(PanelFixture::wid(42, 1), Rect { 0, 0, 10, 10 }), -1);
     QCOMPARE(View_HmiConnectResponse(), -1);
     QCOMPARE(View_HmiDisConnect(), -1);
     QCOMPARE(View_PopupSystemSet(), -1);
@@ -284,28 +282,29 @@ void tst_Windows::bad_records_and_texts()
 {
     QCOMPARE(View_SwitchWindow(nullptr), -1);
     QCOMPARE(View_PopupWindow(nullptr, P, nullptr, 0), 0);
-    View_Window w{};
+    View_Window w {};
     w.id = P;
-    w.rect = Rect{10, 10, -50, -50};
+    w.rect = Rect { 10, 10, -50, -50 };
     w.title = "\xff\xfe broken \xc3";
     w.image = "/no/such/picture.png"; // falls back to the fill
     QCOMPARE(View_PopupWindow(&w, P, nullptr, 0), 0); // no popup record: defaults
     XLumoDialog* d = dialog(P);
     QVERIFY(d);
     QCOMPARE(d->size(), QSizeF(0, 0));
-    View_Popup top{};
+    View_Popup top {};
     top.z = 2147483647; // the dimming layer's z: applied, with a warning
     w.id = P + 1;
-    w.rect = Rect{0, 0, 100, 100};
+    w.rect = Rect { 0, 0, 100, 100 };
     QCOMPARE(View_PopupWindow(&w, P + 1, &top, 0x1 /* keyboard window */), 0);
     QCOMPARE(dialog(P + 1)->z(), 2147483647.0);
     QVERIFY(dialog(P + 1)->header()->inherits("KeyBoardWindowTitile"));
-    QCOMPARE(View_CreateDesktop(Size{-5, 0}, 7), 0);
+    QCOMPARE(View_CreateDesktop(Size { -5, 0 }, 7), 0);
     QCOMPARE(View_PopupMsg("\xff\xff", 1), 0);
     std::string huge(1 << 20, 'x');
     QCOMPARE(View_PopupMsg(huge.c_str(), 1), 0);
     QCOMPARE(View_ChangeWindowTitle(P, huge.c_str()), 0);
-    QCOMPARE(qobject_cast<WindowTitile*>(dialog(P)->header())->title().size(), 512); // cut, not laid out whole
+    QCOMPARE(
+        qobject_cast<WindowTitile*>(dialog(P)->header())->title().size(), 512); // cut, not laid out whole
     PanelFixture::settle();
 }
 
@@ -313,7 +312,7 @@ void tst_Windows::screenshots_of_the_panel_and_of_a_window()
 {
     QTemporaryDir dir;
     const QByteArray panelPng = (dir.path() + "/sub/panel.png").toUtf8();
-    View_ScreenShotData d{};
+    View_ScreenShotData d {};
     d.mode = SCREENSHOT_GRAB;
     d.path = panelPng.constData();
     QCOMPARE(View_ScreenShot(77, &d), 0);
@@ -324,7 +323,7 @@ void tst_Windows::screenshots_of_the_panel_and_of_a_window()
 
     const QByteArray partPng = (dir.path() + "/part.png").toUtf8();
     d.windowId = A;
-    d.rect = Rect{10, 10, 100, 50};
+    d.rect = Rect { 10, 10, 100, 50 };
     d.path = partPng.constData();
     QCOMPARE(View_ScreenShot(78, &d), 0);
     QTRY_COMPARE(m_rec.count(EVT_SCREENSHOT), 2);

@@ -8,9 +8,9 @@
 
 #include "app/xquickview.h"
 #include "config/projectmanage.h"
-#include "xcomponents/qquick/picturecachemanage.h"
 #include "views/qmlwindowmanage.h"
 #include "views/viewmanage.h"
+#include "xcomponents/qquick/picturecachemanage.h"
 #include "xcomponents/qquick/xbutton.h"
 #include "xcomponents/qquick/xdisenableicon.h"
 #include "xcomponents/qquick/xsktextlabel.h"
@@ -23,8 +23,7 @@
 
 #include <qgui/events.h>
 
-class tst_Buttons : public QObject
-{
+class tst_Buttons : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -48,15 +47,15 @@ private:
     {
         return qobject_cast<XButton*>(ViewManage::getInstance()->getItemById(id));
     }
-    int create(unsigned id, unsigned windowId, const char* image, Rect r = Rect{100, 100, 120, 60},
-               unsigned header = 0);
+    int create(unsigned id, unsigned windowId, const char* image, Rect r = Rect { 100, 100, 120, 60 },
+        unsigned header = 0);
     QRgb pixelAt(const QQuickItem* item, QPointF local);
 
     QTemporaryDir m_project;
     PanelFixture m_panel;
     EventRecorder m_rec;
-    Font m_font{nullptr, 18, 400, 0, 0, 0, 0, 0xFFFF0000u, QGUI_ALIGN_HCENTER | QGUI_ALIGN_VCENTER};
-    View_TextLayout m_layout{QGUI_ALIGN_HCENTER | QGUI_ALIGN_VCENTER, 0, 0};
+    Font m_font { nullptr, 18, 400, 0, 0, 0, 0, 0xFFFF0000u, QGUI_ALIGN_HCENTER | QGUI_ALIGN_VCENTER };
+    View_TextLayout m_layout { QGUI_ALIGN_HCENTER | QGUI_ALIGN_VCENTER, 0, 0 };
     const unsigned A = PanelFixture::wid(1, 1);
     const unsigned P = PanelFixture::wid(1, 2);
 };
@@ -89,7 +88,7 @@ void tst_Buttons::init()
 {
     QVERIFY(m_panel.start());
     m_rec.install();
-    QCOMPARE(m_panel.switchWindow(A, Rect{0, 0, 800, 480}, 0xFFFFFFFFu), 0);
+    QCOMPARE(m_panel.switchWindow(A, Rect { 0, 0, 800, 480 }, 0xFFFFFFFFu), 0);
     m_rec.clear();
 }
 
@@ -100,7 +99,7 @@ void tst_Buttons::cleanup()
 
 int tst_Buttons::create(unsigned id, unsigned windowId, const char* image, Rect r, unsigned header)
 {
-    View_ImageText rec{header, r, id, image, "OK", &m_font, &m_layout};
+    View_ImageText rec { header, r, id, image, "OK", &m_font, &m_layout };
     return View_CreateButton(&rec, windowId);
 }
 
@@ -127,10 +126,10 @@ void tst_Buttons::presses_reach_the_logic_layer_through_the_holder()
     QFETCH(bool, touch);
     unsigned holder = A;
     if (inPopup) {
-        QCOMPARE(m_panel.popup(P, Rect{200, 50, 400, 300}), 0);
+        QCOMPARE(m_panel.popup(P, Rect { 200, 50, 400, 300 }), 0);
         holder = P;
     }
-    QCOMPARE(create(41, holder, nullptr, Rect{60, 100, 120, 60}), 0);
+    QCOMPARE(create(41, holder, nullptr, Rect { 60, 100, 120, 60 }), 0);
     m_rec.clear();
     const QPoint at = m_panel.sceneCenter(button(41));
     touch ? m_panel.touch(at) : m_panel.click(at);
@@ -173,7 +172,7 @@ void tst_Buttons::same_picture_is_decoded_once()
 {
     PictureCacheManage::getInstance()->clear();
     for (unsigned i = 0; i < 20; ++i)
-        QCOMPARE(create(50 + i, A, "green.png", Rect{int(i) * 30, 300, 20 + int(i), 40}), 0);
+        QCOMPARE(create(50 + i, A, "green.png", Rect { int(i) * 30, 300, 20 + int(i), 40 }), 0);
     QVERIFY(TestUtil::waitForFrame(m_panel.view()));
     QCOMPARE(PictureCacheManage::getInstance()->decodeCount(), 1);
     QCOMPARE(button(50)->imageItem()->status(), QQuickImageBase::Ready);
@@ -187,7 +186,7 @@ void tst_Buttons::image_path_null_keeps_and_empty_hides_the_picture()
     QVERIFY(b->imageItem()->isVisible());
 
     // a null font: the picture changes, the caption stays
-    View_ImageText rec{0, Rect{100, 100, 120, 60}, 43, "green.bmp", "changed", nullptr, nullptr};
+    View_ImageText rec { 0, Rect { 100, 100, 120, 60 }, 43, "green.bmp", "changed", nullptr, nullptr };
     QCOMPARE(View_ChangeButtonParam(43, &rec), -1);
     QVERIFY(b->imageItem()->source().isValid());
     QCOMPARE(b->text(), QStringLiteral("OK"));
@@ -215,24 +214,24 @@ void tst_Buttons::image_path_null_keeps_and_empty_hides_the_picture()
     QVERIFY(!button(44)->imageItem());
     QCOMPARE(button(44)->text(), QStringLiteral("OK"));
     // a corrupt picture: a face that shows nothing
-    QCOMPARE(create(45, A, "corrupt.png", Rect{300, 100, 50, 50}), 0);
+    QCOMPARE(create(45, A, "corrupt.png", Rect { 300, 100, 50, 50 }), 0);
     QVERIFY(TestUtil::waitForFrame(m_panel.view()));
     QCOMPARE(button(45)->imageItem()->status(), QQuickImageBase::Error);
 }
 
 void tst_Buttons::drag_flag_makes_the_button_a_window_handle()
 {
-    QCOMPARE(create(46, A, nullptr, Rect{10, 10, 80, 40}, 0x10000u), 0);
+    QCOMPARE(create(46, A, nullptr, Rect { 10, 10, 80, 40 }, 0x10000u), 0);
     QQuickItem* area = button(46)->dragArea();
     QVERIFY(area);
     QObject* drag = area->property("drag").value<QObject*>();
     QCOMPARE(drag->property("target").value<QQuickItem*>(),
-             ViewManage::getInstance()->windowManage()->getWindowObj(A));
+        ViewManage::getInstance()->windowManage()->getWindowObj(A));
 
-    QCOMPARE(m_panel.popup(P, Rect{300, 100, 300, 200}), 0);
-    QCOMPARE(create(47, P, nullptr, Rect{10, 60, 80, 40}, 0x10000u), 0);
+    QCOMPARE(m_panel.popup(P, Rect { 300, 100, 300, 200 }), 0);
+    QCOMPARE(create(47, P, nullptr, Rect { 10, 60, 80, 40 }, 0x10000u), 0);
     QVERIFY(!button(47)->dragArea()); // a popup window is not a window item: a plain button
-    QCOMPARE(create(48, A, nullptr, Rect{10, 100, 80, 40}, 0), 0);
+    QCOMPARE(create(48, A, nullptr, Rect { 10, 100, 80, 40 }, 0), 0);
     QVERIFY(!button(48)->dragArea());
 }
 
@@ -246,7 +245,7 @@ void tst_Buttons::grey_flag_restores_the_stored_colour()
     QCOMPARE(caption->color(), QColor("gray"));
     Font blue = m_font;
     blue.color = 0xFF0000FFu;
-    View_ImageText rec{0, Rect{100, 100, 120, 60}, 49, nullptr, "OK", &blue, nullptr};
+    View_ImageText rec { 0, Rect { 100, 100, 120, 60 }, 49, nullptr, "OK", &blue, nullptr };
     View_ChangeButtonParam(49, &rec);
     QCOMPARE(caption->color(), QColor("gray"));
     QCOMPARE(View_ClrDisableFlag(49, 4), 0);
@@ -261,7 +260,7 @@ void tst_Buttons::grey_flag_restores_the_stored_colour()
 
 void tst_Buttons::caption_carousel_and_overflow()
 {
-    QCOMPARE(create(51, A, nullptr, Rect{100, 100, 60, 30}), 0);
+    QCOMPARE(create(51, A, nullptr, Rect { 100, 100, 60, 30 }), 0);
     XButton* b = button(51);
     b->setCarouse(QPoint(0, 0));
     QVERIFY(!b->textItem()->carouselLabel());
@@ -277,7 +276,7 @@ void tst_Buttons::caption_carousel_and_overflow()
 
     // a caption taken away is given back by the next restyle
     b->textItem()->setParentItem(nullptr);
-    View_ImageText rec{0, Rect{100, 100, 60, 30}, 51, nullptr, "back", &m_font, nullptr};
+    View_ImageText rec { 0, Rect { 100, 100, 60, 30 }, 51, nullptr, "back", &m_font, nullptr };
     View_ChangeButtonParam(51, &rec);
     QCOMPARE(b->textItem()->parentItem(), b);
     QCOMPARE(b->text(), QStringLiteral("back"));
@@ -299,7 +298,7 @@ void tst_Buttons::disabled_icon_tints_only_the_icon_shape()
     QCOMPARE(icon.boundingRect(), QRectF(0, 0, 20, 20));
 
     QImage out(20, 20, QImage::Format_ARGB32_Premultiplied);
-    for (bool enabled : {true, false}) {
+    for (bool enabled : { true, false }) {
         icon.setEnabled(enabled);
         out.fill(Qt::transparent);
         QPainter p(&out);
@@ -307,14 +306,14 @@ void tst_Buttons::disabled_icon_tints_only_the_icon_shape()
         p.end();
         QCOMPARE(QColor(out.pixel(4, 10)), enabled ? QColor(255, 0, 0) : QColor(0, 0, 255));
         QCOMPARE(qAlpha(out.pixel(14, 10)), 0); // the transparent half stays transparent
-        QCOMPARE(qAlpha(out.pixel(1, 1)), 0);   // the 2-pixel border
+        QCOMPARE(qAlpha(out.pixel(1, 1)), 0); // the 2-pixel border
     }
 }
 
 void tst_Buttons::bad_input_is_refused_or_repaired()
 {
     QCOMPARE(View_CreateButton(nullptr, A), -1);
-    View_ImageText rec{0, Rect{0, 0, -5, -5}, 52, nullptr, nullptr, nullptr, nullptr};
+    View_ImageText rec { 0, Rect { 0, 0, -5, -5 }, 52, nullptr, nullptr, nullptr, nullptr };
     QCOMPARE(View_CreateButton(&rec, PanelFixture::wid(1, 99)), -1);
     QVERIFY(!button(52));
     // no font: no caption; a negative size is an empty button

@@ -18,8 +18,7 @@
 
 Q_DECLARE_METATYPE(Rect)
 
-class tst_QRCode : public QObject
-{
+class tst_QRCode : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -34,8 +33,12 @@ private Q_SLOTS:
     void fixed_results_and_bad_records();
 
 private:
-    static XQRCode* code(unsigned id) { return qobject_cast<XQRCode*>(ViewManage::getInstance()->getItemById(id)); }
-    int create(unsigned id, Rect r, unsigned ecc = 1, unsigned front = 0xFF000000u, unsigned back = 0xFFFFFFFFu);
+    static XQRCode* code(unsigned id)
+    {
+        return qobject_cast<XQRCode*>(ViewManage::getInstance()->getItemById(id));
+    }
+    int create(
+        unsigned id, Rect r, unsigned ecc = 1, unsigned front = 0xFF000000u, unsigned back = 0xFFFFFFFFu);
     /** What zbarimg reads from the widget's pixels; \a found tells whether it found a symbol. */
     QByteArray decode(const QQuickItem* item, bool* found);
 
@@ -47,7 +50,7 @@ private:
 void tst_QRCode::init()
 {
     QVERIFY(m_panel.start());
-    QCOMPARE(m_panel.switchWindow(A, Rect{0, 0, 800, 480}, 0xFFFFFFFFu), 0);
+    QCOMPARE(m_panel.switchWindow(A, Rect { 0, 0, 800, 480 }, 0xFFFFFFFFu), 0);
 }
 
 void tst_QRCode::cleanup()
@@ -57,7 +60,7 @@ void tst_QRCode::cleanup()
 
 int tst_QRCode::create(unsigned id, Rect r, unsigned ecc, unsigned front, unsigned back)
 {
-    View_QRCode rec{0, r, id, ecc, front, back};
+    View_QRCode rec { 0, r, id, ecc, front, back };
     return View_CreateQRCode(&rec, A);
 }
 
@@ -77,7 +80,7 @@ QByteArray tst_QRCode::decode(const QQuickItem* item, bool* found)
     const QString file = m_tmp.filePath("symbol.png");
     page.save(file);
     QProcess zbar;
-    zbar.start(QStringLiteral("zbarimg"), {"--raw", "-q", "-Sbinary", file});
+    zbar.start(QStringLiteral("zbarimg"), { "--raw", "-q", "-Sbinary", file });
     if (!zbar.waitForFinished(30000) || zbar.exitCode() != 0)
         return QByteArray();
     *found = true;
@@ -89,12 +92,12 @@ void tst_QRCode::rendered_symbol_decodes_to_the_content_data()
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<unsigned>("ecc");
     QTest::addColumn<Rect>("box");
-    QTest::newRow("short, square") << QByteArray("HMI-42") << 0u << Rect{20, 20, 200, 200};
-    QTest::newRow("long, high level") << QByteArray("https://example.invalid/line/7?").repeated(12) << 3u
-                                      << Rect{20, 20, 400, 400};
-    QTest::newRow("utf-8") << QByteArray("温度 25 °C, Überdruck") << 2u << Rect{20, 20, 240, 240};
-    QTest::newRow("empty") << QByteArray() << 0u << Rect{20, 20, 120, 120};
-    QTest::newRow("stretched box") << QByteArray("stretch") << 1u << Rect{20, 20, 300, 180};
+    QTest::newRow("short, square") << QByteArray("HMI-42") << 0u << Rect { 20, 20, 200, 200 };
+    QTest::newRow("long, high level")
+        << QByteArray("https://example.invalid/line/7?").repeated(12) << 3u << Rect { 20, 20, 400, 400 };
+    QTest::newRow("utf-8") << QByteArray("温度 25 °C, Überdruck") << 2u << Rect { 20, 20, 240, 240 };
+    QTest::newRow("empty") << QByteArray() << 0u << Rect { 20, 20, 120, 120 };
+    QTest::newRow("stretched box") << QByteArray("stretch") << 1u << Rect { 20, 20, 300, 180 };
 }
 
 void tst_QRCode::rendered_symbol_decodes_to_the_content()
@@ -126,10 +129,12 @@ void tst_QRCode::svg_document_of_a_known_input()
     const QList<QByteArray> lines = svg.split('\n');
     QCOMPARE(lines.size(), 7); // six lines, each ended by a line feed
     QCOMPARE(lines[0], QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>"));
-    QCOMPARE(lines[1], QByteArray("<!DOCTYPE svg PUBLIC \"-//W3C//DTD SVG 1.1//EN\" "
-                                  "\"http://www.w3.org/Graphics/SVG/1.1/DTD/svg11.dtd\">"));
-    QCOMPARE(lines[2], QByteArray("<svg xmlns=\"http://www.w3.org/2000/svg\" version=\"1.1\" viewBox=\"0 0 23 23\" "
-                                  "stroke=\"none\">"));
+    QCOMPARE(lines[1],
+        QByteArray("<!DOCTYPE svg PUBLIC \"-//W3C//DTD SVG 1.1//EN\" "
+                   "\"http://www.w3.org/Graphics/SVG/1.1/DTD/svg11.dtd\">"));
+    QCOMPARE(lines[2],
+        QByteArray("<svg xmlns=\"http://www.w3.org/2000/svg\" version=\"1.1\" viewBox=\"0 0 23 23\" "
+                   "stroke=\"none\">"));
     QCOMPARE(lines[3], QByteArray("\t<rect width=\"23\" height=\"23\" fill=\"#12ABCD\"/>"));
     QVERIFY(lines[4].startsWith("\t<path d=\"M1,1h1v1h-1z M2,1h1v1h-1z M3,1h1v1h-1z"));
     QVERIFY(lines[4].endsWith("\" fill=\"#FF0000\"/>"));
@@ -145,7 +150,7 @@ void tst_QRCode::svg_document_of_a_known_input()
     QVERIFY(lines[4].contains(" M7,7h1v1h-1z "));
 
     // an empty text is a version-1 symbol too
-    QCOMPARE(create(62, Rect{0, 0, 100, 100}), 0);
+    QCOMPARE(create(62, Rect { 0, 0, 100, 100 }), 0);
     QCOMPARE(View_UpdateQRCodeContent(62, ""), 0);
     QVERIFY(code(62)->svgDocument().contains("viewBox=\"0 0 23 23\""));
     QCOMPARE(XQRCode::imageProvider()->document(), code(62)->svgDocument());
@@ -153,7 +158,7 @@ void tst_QRCode::svg_document_of_a_known_input()
 
 void tst_QRCode::level_and_colours_signal_only_on_change()
 {
-    QCOMPARE(create(63, Rect{0, 0, 100, 100}, 6u, 0xFF112233u, 0xFF445566u), 0);
+    QCOMPARE(create(63, Rect { 0, 0, 100, 100 }, 6u, 0xFF112233u, 0xFF445566u), 0);
     XQRCode* q = code(63);
     QCOMPARE(q->ecc(), 2); // the word AND 3
     QCOMPARE(q->frontColor(), QColor(0x11, 0x22, 0x33));
@@ -176,7 +181,7 @@ void tst_QRCode::level_and_colours_signal_only_on_change()
 
 void tst_QRCode::every_update_loads_a_fresh_picture()
 {
-    QCOMPARE(create(64, Rect{0, 0, 120, 120}), 0);
+    QCOMPARE(create(64, Rect { 0, 0, 120, 120 }), 0);
     XQRCode* q = code(64);
     QSignalSpy changed(q, &XQRCode::contentChanged);
     View_UpdateQRCodeContent(64, "same");
@@ -190,7 +195,7 @@ void tst_QRCode::every_update_loads_a_fresh_picture()
 
 void tst_QRCode::content_beyond_capacity_keeps_the_previous_symbol()
 {
-    QCOMPARE(create(65, Rect{0, 0, 200, 200}, 3u), 0);
+    QCOMPARE(create(65, Rect { 0, 0, 200, 200 }, 3u), 0);
     XQRCode* q = code(65);
     View_UpdateQRCodeContent(65, "kept");
     const QUrl kept = q->source();
@@ -210,11 +215,11 @@ void tst_QRCode::content_beyond_capacity_keeps_the_previous_symbol()
 void tst_QRCode::fixed_results_and_bad_records()
 {
     QCOMPARE(View_CreateQRCode(nullptr, A), -1);
-    View_QRCode rec{0, Rect{0, 0, 50, 50}, 66, 0, 0, 0};
+    View_QRCode rec { 0, Rect { 0, 0, 50, 50 }, 66, 0, 0, 0 };
     QCOMPARE(View_CreateQRCode(&rec, PanelFixture::wid(1, 99)), -1);
     QVERIFY(!code(66));
     QCOMPARE(View_UpdateQRCodeContent(66, "x"), 0); // unknown id
-    View_Text text{0, Rect{0, 0, 50, 50}, 67, "t", nullptr, nullptr};
+    View_Text text { 0, Rect { 0, 0, 50, 50 }, 67, "t", nullptr, nullptr };
     QCOMPARE(View_CreateText(&text, A), 0);
     QCOMPARE(View_UpdateQRCodeContent(67, "x"), 0); // not a QR code: nothing happens
     QCOMPARE(View_CreateQRCode(&rec, A), 0);

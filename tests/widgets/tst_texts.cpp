@@ -18,8 +18,7 @@
 #include <QQuickItem>
 #include <QtQuick/private/qquicktext_p.h>
 
-class tst_Texts : public QObject
-{
+class tst_Texts : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -42,12 +41,12 @@ private:
     {
         return qobject_cast<XCauseText*>(ViewManage::getInstance()->getItemById(id));
     }
-    int create(unsigned id, const char* s, Rect r = Rect{10, 10, 200, 100}, const View_TextLayout* layout = nullptr,
-               const Font* font = nullptr);
+    int create(unsigned id, const char* s, Rect r = Rect { 10, 10, 200, 100 },
+        const View_TextLayout* layout = nullptr, const Font* font = nullptr);
 
     PanelFixture m_panel;
     EventRecorder m_rec;
-    Font m_font{nullptr, 20, 400, 0, 0, 0, 0, 0xFF102030u, QGUI_ALIGN_LEFT | QGUI_ALIGN_TOP};
+    Font m_font { nullptr, 20, 400, 0, 0, 0, 0, 0xFF102030u, QGUI_ALIGN_LEFT | QGUI_ALIGN_TOP };
     const unsigned A = PanelFixture::wid(1, 1);
 };
 
@@ -55,7 +54,7 @@ void tst_Texts::init()
 {
     QVERIFY(m_panel.start());
     m_rec.install();
-    QCOMPARE(m_panel.switchWindow(A, Rect{0, 0, 800, 480}, 0xFFFFFFFFu), 0);
+    QCOMPARE(m_panel.switchWindow(A, Rect { 0, 0, 800, 480 }, 0xFFFFFFFFu), 0);
 }
 
 void tst_Texts::cleanup()
@@ -65,17 +64,17 @@ void tst_Texts::cleanup()
 
 int tst_Texts::create(unsigned id, const char* s, Rect r, const View_TextLayout* layout, const Font* font)
 {
-    View_Text rec{0, r, id, s, font ? font : &m_font, layout};
+    View_Text rec { 0, r, id, s, font ? font : &m_font, layout };
     return View_CreateText(&rec, A);
 }
 
 void tst_Texts::created_text_shows_record_values()
 {
-    const View_TextLayout layout{QGUI_ALIGN_RIGHT | QGUI_ALIGN_BOTTOM, 4, 6};
+    const View_TextLayout layout { QGUI_ALIGN_RIGHT | QGUI_ALIGN_BOTTOM, 4, 6 };
     Font font = m_font;
     font.lineSpace = 3;
     font.align = QGUI_ALIGN_HCENTER;
-    View_Text rec{30u, Rect{15, 25, 180, 60}, 7, "温度 25 °C", &font, &layout};
+    View_Text rec { 30u, Rect { 15, 25, 180, 60 }, 7, "温度 25 °C", &font, &layout };
     QCOMPARE(View_CreateText(&rec, A), 0);
     XCauseText* t = text(7);
     QVERIFY(t);
@@ -102,12 +101,18 @@ void tst_Texts::margins_follow_the_alignment_data()
     QTest::addColumn<unsigned>("align");
     QTest::addColumn<QString>("hPlace"); // "left", "right", "centre", "free"
     QTest::addColumn<QString>("vPlace"); // "top", "bottom", "centre", "free"
-    QTest::newRow("left top") << 0x21u << "left" << "top";
-    QTest::newRow("right bottom") << 0x42u << "right" << "bottom";
-    QTest::newRow("centres ignore margins") << 0x84u << "centre" << "centre";
-    QTest::newRow("justified and no vertical bit are free") << 0x08u << "free" << "free";
-    QTest::newRow("two horizontal bits are free") << 0x23u << "free" << "top";
-    QTest::newRow("unknown bits are dropped") << 0xF000u + 0x42u << "right" << "bottom";
+    QTest::newRow("left top") << 0x21u << "left"
+                              << "top";
+    QTest::newRow("right bottom") << 0x42u << "right"
+                                  << "bottom";
+    QTest::newRow("centres ignore margins") << 0x84u << "centre"
+                                            << "centre";
+    QTest::newRow("justified and no vertical bit are free") << 0x08u << "free"
+                                                            << "free";
+    QTest::newRow("two horizontal bits are free") << 0x23u << "free"
+                                                  << "top";
+    QTest::newRow("unknown bits are dropped") << 0xF000u + 0x42u << "right"
+                                              << "bottom";
 }
 
 void tst_Texts::margins_follow_the_alignment()
@@ -117,28 +122,30 @@ void tst_Texts::margins_follow_the_alignment()
     QFETCH(QString, vPlace);
     const int hm = 12;
     const int vm = 7;
-    const View_TextLayout layout{align, hm, vm};
-    QCOMPARE(create(1, "Abc", Rect{0, 0, 200, 100}, &layout), 0);
+    const View_TextLayout layout { align, hm, vm };
+    QCOMPARE(create(1, "Abc", Rect { 0, 0, 200, 100 }, &layout), 0);
     // a free text stays where it was put last, so start from a known anchoring
     XskTextLabel* label = text(1)->mainLabel();
     QQuickText* inner = label->textItem();
     const qreal w = inner->width();
     const qreal h = inner->height();
     QVERIFY(w > 0 && h > 0);
-    const QMap<QString, qreal> xs{{"left", hm}, {"right", 200 - w - hm}, {"centre", (200 - w) / 2}, {"free", 0}};
-    const QMap<QString, qreal> ys{{"top", vm}, {"bottom", 100 - h - vm}, {"centre", (100 - h) / 2}, {"free", 0}};
+    const QMap<QString, qreal> xs { { "left", hm }, { "right", 200 - w - hm }, { "centre", (200 - w) / 2 },
+        { "free", 0 } };
+    const QMap<QString, qreal> ys { { "top", vm }, { "bottom", 100 - h - vm }, { "centre", (100 - h) / 2 },
+        { "free", 0 } };
     // a centred text is snapped to whole pixels
     QVERIFY2(qAbs(inner->x() - xs.value(hPlace)) <= 0.5, qPrintable(QString::number(inner->x())));
     QVERIFY2(qAbs(inner->y() - ys.value(vPlace)) <= 0.5, qPrintable(QString::number(inner->y())));
 
     // the anchoring follows a later alignment, with the stored margins
-    const View_TextLayout leftTop{0x21u, hm, vm};
-    View_Text rec{0, Rect{0, 0, 200, 100}, 1, "Abc", &m_font, &leftTop};
+    const View_TextLayout leftTop { 0x21u, hm, vm };
+    View_Text rec { 0, Rect { 0, 0, 200, 100 }, 1, "Abc", &m_font, &leftTop };
     QCOMPARE(View_ChangeTextParam(1, &rec), 0);
     QCOMPARE(inner->x(), qreal(hm));
     QCOMPARE(inner->y(), qreal(vm));
     // and a box resize keeps an edge-aligned text at its margin
-    const View_TextLayout rightBottom{0x42u, hm, vm};
+    const View_TextLayout rightBottom { 0x42u, hm, vm };
     rec.layout = &rightBottom;
     QCOMPARE(View_ChangeTextParam(1, &rec), 0);
     text(1)->setSize(QSizeF(300, 150));
@@ -149,27 +156,25 @@ void tst_Texts::margins_follow_the_alignment()
 void tst_Texts::carousel_band_loops_across_the_wrap_data()
 {
     QTest::addColumn<QPoint>("step");
-    QTest::addColumn<QList<QPointF>>("mainAt");  // after each step
+    QTest::addColumn<QList<QPointF>>("mainAt"); // after each step
     QTest::addColumn<QList<QPointF>>("copyAt");
     // box 100 x 50
     QTest::newRow("right") << QPoint(30, 0)
-                           << QList<QPointF>{{30, 0}, {60, 0}, {90, 0}, {20, 0}, {50, 0}}
-                           << QList<QPointF>{{-70, 0}, {-40, 0}, {-10, 0}, {-80, 0}, {-50, 0}};
+                           << QList<QPointF> { { 30, 0 }, { 60, 0 }, { 90, 0 }, { 20, 0 }, { 50, 0 } }
+                           << QList<QPointF> { { -70, 0 }, { -40, 0 }, { -10, 0 }, { -80, 0 }, { -50, 0 } };
     QTest::newRow("left") << QPoint(-30, 0)
-                          << QList<QPointF>{{-30, 0}, {-60, 0}, {-90, 0}, {-20, 0}, {-50, 0}}
-                          << QList<QPointF>{{70, 0}, {40, 0}, {10, 0}, {80, 0}, {50, 0}};
-    QTest::newRow("down, wrapping exactly") << QPoint(0, 25)
-                                            << QList<QPointF>{{0, 25}, {0, 0}, {0, 25}}
-                                            << QList<QPointF>{{0, -25}, {0, -50}, {0, -25}};
-    QTest::newRow("up") << QPoint(0, -20)
-                        << QList<QPointF>{{0, -20}, {0, -40}, {0, -10}}
-                        << QList<QPointF>{{0, 30}, {0, 10}, {0, 40}};
-    QTest::newRow("both set: along x only") << QPoint(40, 9)
-                                            << QList<QPointF>{{40, 0}, {80, 0}, {20, 0}}
-                                            << QList<QPointF>{{-60, 0}, {-20, 0}, {-80, 0}};
-    QTest::newRow("steps longer than the box") << QPoint(250, 0)
-                                               << QList<QPointF>{{50, 0}, {0, 0}}
-                                               << QList<QPointF>{{-50, 0}, {-100, 0}};
+                          << QList<QPointF> { { -30, 0 }, { -60, 0 }, { -90, 0 }, { -20, 0 }, { -50, 0 } }
+                          << QList<QPointF> { { 70, 0 }, { 40, 0 }, { 10, 0 }, { 80, 0 }, { 50, 0 } };
+    QTest::newRow("down, wrapping exactly")
+        << QPoint(0, 25) << QList<QPointF> { { 0, 25 }, { 0, 0 }, { 0, 25 } }
+        << QList<QPointF> { { 0, -25 }, { 0, -50 }, { 0, -25 } };
+    QTest::newRow("up") << QPoint(0, -20) << QList<QPointF> { { 0, -20 }, { 0, -40 }, { 0, -10 } }
+                        << QList<QPointF> { { 0, 30 }, { 0, 10 }, { 0, 40 } };
+    QTest::newRow("both set: along x only")
+        << QPoint(40, 9) << QList<QPointF> { { 40, 0 }, { 80, 0 }, { 20, 0 } }
+        << QList<QPointF> { { -60, 0 }, { -20, 0 }, { -80, 0 } };
+    QTest::newRow("steps longer than the box") << QPoint(250, 0) << QList<QPointF> { { 50, 0 }, { 0, 0 } }
+                                               << QList<QPointF> { { -50, 0 }, { -100, 0 } };
 }
 
 void tst_Texts::carousel_band_loops_across_the_wrap()
@@ -177,7 +182,7 @@ void tst_Texts::carousel_band_loops_across_the_wrap()
     QFETCH(QPoint, step);
     QFETCH(QList<QPointF>, mainAt);
     QFETCH(QList<QPointF>, copyAt);
-    QCOMPARE(create(2, "A long line that does not fit", Rect{5, 5, 100, 50}), 0);
+    QCOMPARE(create(2, "A long line that does not fit", Rect { 5, 5, 100, 50 }), 0);
     XCauseText* t = text(2);
     for (int i = 0; i < mainAt.size(); ++i) {
         QCOMPARE(View_CarouselText(2, step.x(), step.y()), 0);
@@ -199,9 +204,9 @@ void tst_Texts::main_label_changes_reach_the_carousel_copy()
     QVERIFY(copy);
     QCOMPARE(copy->text(), QStringLiteral("before"));
 
-    Font font{"DejaVu Sans", 31, 700, 1, 0, 0, 4, 0xFF00AA00u, QGUI_ALIGN_RIGHT};
-    const View_TextLayout layout{QGUI_ALIGN_HCENTER | QGUI_ALIGN_BOTTOM, 3, 9};
-    View_Text rec{0, Rect{10, 10, 200, 100}, 3, "after", &font, &layout};
+    Font font { "DejaVu Sans", 31, 700, 1, 0, 0, 4, 0xFF00AA00u, QGUI_ALIGN_RIGHT };
+    const View_TextLayout layout { QGUI_ALIGN_HCENTER | QGUI_ALIGN_BOTTOM, 3, 9 };
+    View_Text rec { 0, Rect { 10, 10, 200, 100 }, 3, "after", &font, &layout };
     QCOMPARE(View_ChangeTextParam(3, &rec), 0);
     QCOMPARE(copy->text(), QStringLiteral("after"));
     QCOMPARE(copy->font(), t->mainLabel()->font());
@@ -218,7 +223,7 @@ void tst_Texts::main_label_changes_reach_the_carousel_copy()
     QCOMPARE(copy->text(), QStringLiteral("third"));
     t->setWidth(260);
     QCOMPARE(copy->width(), 260.0);
-    const Brush red{BRUSH_SOLID, 0xFFFF0000u, 0, 0};
+    const Brush red { BRUSH_SOLID, 0xFFFF0000u, 0, 0 };
     QCOMPARE(View_ChangeFontColor(3, &red), 0);
     QCOMPARE(copy->color(), QColor(Qt::red));
 }
@@ -229,7 +234,7 @@ void tst_Texts::grey_flag_restores_the_stored_colour()
     XskTextLabel* label = text(4)->mainLabel();
     QCOMPARE(View_SetDisableFlag(4, 4), 0);
     QCOMPARE(label->color(), QColor("gray"));
-    const Brush blue{BRUSH_SOLID, 0xFF0000FFu, 0, 0};
+    const Brush blue { BRUSH_SOLID, 0xFF0000FFu, 0, 0 };
     QCOMPARE(View_ChangeFontColor(4, &blue), 0);
     QCOMPARE(label->color(), QColor("gray")); // stored, not shown while grey
     QCOMPARE(View_ClrDisableFlag(4, 4), 0);
@@ -239,8 +244,8 @@ void tst_Texts::grey_flag_restores_the_stored_colour()
 void tst_Texts::fixed_results_of_the_text_calls()
 {
     QCOMPARE(create(5, "text"), 0);
-    View_ImageText b{0, Rect{300, 10, 60, 30}, 6, nullptr, "a caption far too long for the button", &m_font,
-                     nullptr};
+    View_ImageText b { 0, Rect { 300, 10, 60, 30 }, 6, nullptr, "a caption far too long for the button",
+        &m_font, nullptr };
     QCOMPARE(View_CreateButton(&b, A), 0);
     auto* button = qobject_cast<XButton*>(ViewManage::getInstance()->getItemById(6));
     QVERIFY(button);
@@ -260,7 +265,7 @@ void tst_Texts::fixed_results_of_the_text_calls()
 
     QCOMPARE(View_ChangeTextContent(999, "x", nullptr), 0);
     QCOMPARE(View_ChangeFontColor(999, nullptr), 0);
-    View_Text rec{0, Rect{0, 0, 1, 1}, 999, "x", nullptr, nullptr};
+    View_Text rec { 0, Rect { 0, 0, 1, 1 }, 999, "x", nullptr, nullptr };
     QCOMPARE(View_ChangeTextParam(999, &rec), -1);
     QCOMPARE(View_ChangeTitle(999, &rec), -1);
     QCOMPARE(View_CreateText(&rec, PanelFixture::wid(1, 77)), -1);
@@ -322,7 +327,7 @@ void tst_Texts::blank_light_texts_draw_nothing()
 void tst_Texts::bad_input_is_refused_or_repaired()
 {
     // null text and null font: an empty text in the default font
-    View_Text rec{0, Rect{0, 0, 100, 40}, 8, nullptr, nullptr, nullptr};
+    View_Text rec { 0, Rect { 0, 0, 100, 40 }, 8, nullptr, nullptr, nullptr };
     QCOMPARE(View_CreateText(&rec, A), 0);
     QCOMPARE(text(8)->text(), QString());
     // invalid UTF-8 becomes replacement characters

@@ -14,8 +14,7 @@
  * the lines aligned by the font alignment, the block placed in the box by the
  * alignment and the margin.
  */
-class BaseTextSgNode : public QQuickTextNode
-{
+class BaseTextSgNode : public QQuickTextNode {
 public:
     explicit BaseTextSgNode(QQuickItem* owner);
     ~BaseTextSgNode() override;

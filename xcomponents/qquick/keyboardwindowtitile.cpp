@@ -29,5 +29,6 @@ void KeyBoardWindowTitile::geometryChanged(const QRectF& newGeometry, const QRec
     WindowTitile::geometryChanged(newGeometry, oldGeometry);
     // the entry takes the left half of the bar, inset by 4 px
     m_edit->setPosition(QPointF(4, 4));
-    m_edit->setSize(QSizeF(qMax<qreal>(0, newGeometry.width() / 2 - 8), qMax<qreal>(0, newGeometry.height() - 8)));
+    m_edit->setSize(
+        QSizeF(qMax<qreal>(0, newGeometry.width() / 2 - 8), qMax<qreal>(0, newGeometry.height() - 8)));
 }

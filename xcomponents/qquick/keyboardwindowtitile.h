@@ -9,8 +9,7 @@ class XKeyBoardEdit;
  * The title bar of a keyboard window: a WindowTitile whose left part is a
  * one-line entry (lineEdit()) that the keyboard window calls write into.
  */
-class KeyBoardWindowTitile : public WindowTitile
-{
+class KeyBoardWindowTitile : public WindowTitile {
     Q_OBJECT
 
 public:

@@ -9,8 +9,7 @@
  * The dimming layer of a desktop: a popup filling the panel in a translucent
  * black that lowers the apparent brightness. It lies above everything else.
  */
-class LighterPopup : public XPopup
-{
+class LighterPopup : public XPopup {
     Q_OBJECT
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
 
@@ -24,7 +23,7 @@ Q_SIGNALS:
     void colorChanged();
 
 private:
-    QColor m_color{0, 0, 0, 0};
+    QColor m_color { 0, 0, 0, 0 };
 };
 
 #endif // LIGHTERPOPUP_H

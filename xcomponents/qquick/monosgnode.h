@@ -14,8 +14,7 @@
  * (no shaping); any other text goes through a full text layout (shaping,
  * bidirectional text, fallback fonts).
  */
-class MonoSGNode : public QQuickTextNode
-{
+class MonoSGNode : public QQuickTextNode {
 public:
     explicit MonoSGNode(QQuickItem* owner);
     ~MonoSGNode() override;

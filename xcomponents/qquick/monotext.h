@@ -11,8 +11,7 @@
  * shaping; clear it for texts that need shaping (Arabic, Indic, mixed
  * scripts). A text that is blank after trimming draws nothing.
  */
-class MonoText : public QQuickItem
-{
+class MonoText : public QQuickItem {
     Q_OBJECT
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
     Q_PROPERTY(QFont font READ font WRITE setFont NOTIFY fontChanged)

@@ -16,8 +16,7 @@ namespace {
 
 const QString kProvider = QStringLiteral("xpicture");
 
-class PictureProvider : public QQuickImageProvider
-{
+class PictureProvider : public QQuickImageProvider {
 public:
     PictureProvider()
         : QQuickImageProvider(QQuickImageProvider::Image)
@@ -33,7 +32,7 @@ public:
 bool isSvg(const QString& file)
 {
     return file.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive)
-           || file.endsWith(QLatin1String(".svgz"), Qt::CaseInsensitive);
+        || file.endsWith(QLatin1String(".svgz"), Qt::CaseInsensitive);
 }
 
 } // namespace
@@ -108,7 +107,7 @@ QImage PictureCacheManage::image(const QString& key, QSize* size, const QSize& r
                 target = requested;
             else if (requested.width() > 0 || requested.height() > 0)
                 target.scale(requested.width() > 0 ? requested.width() : INT_MAX,
-                             requested.height() > 0 ? requested.height() : INT_MAX, Qt::KeepAspectRatio);
+                    requested.height() > 0 ? requested.height() : INT_MAX, Qt::KeepAspectRatio);
             out = QImage(target.expandedTo(QSize(1, 1)), QImage::Format_ARGB32_Premultiplied);
             out.fill(Qt::transparent);
             QPainter p(&out);
@@ -123,8 +122,7 @@ QImage PictureCacheManage::image(const QString& key, QSize* size, const QSize& r
             ++m_decodeCount;
             if (img.isNull()) {
                 NLog::NLogger::instance()->log(spdlog::level::warn, "qgui/views/PictureCacheManage", "image",
-                                               "cannot decode {}: {}", file.toStdString(),
-                                               reader.errorString().toStdString());
+                    "cannot decode {}: {}", file.toStdString(), reader.errorString().toStdString());
             }
             out = img;
             m_decoded.insert(file, new QImage(img), qMax<int>(1, int(img.sizeInBytes() / 1024)));

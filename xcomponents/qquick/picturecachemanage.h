@@ -22,8 +22,7 @@ class QQmlEngine;
  * size; SVG documents are parsed once and rendered at the requested size.
  * The decoded pictures are kept up to a budget of 64 MB, least used first out.
  */
-class PictureCacheManage
-{
+class PictureCacheManage {
 public:
     static PictureCacheManage* getInstance();
 
@@ -50,9 +49,9 @@ private:
 
     mutable QMutex m_mutex;
     QHash<QString, int> m_numbers; // file -> URL number
-    QHash<int, QString> m_files;   // URL number -> file
-    QCache<QString, QImage> m_decoded;      // raster pictures at their own size, cost in KB
-    QCache<QString, QByteArray> m_vectors;  // SVG documents
+    QHash<int, QString> m_files; // URL number -> file
+    QCache<QString, QImage> m_decoded; // raster pictures at their own size, cost in KB
+    QCache<QString, QByteArray> m_vectors; // SVG documents
     int m_decodeCount = 0;
 };
 

@@ -50,8 +50,8 @@ std::string ScaleTime::labelText(double seconds) const
 
 double ScaleTime::tickStep() const
 {
-    static const double steps[] = {1,    2,    5,    10,    15,    30,    60,    120,    300,
-                                   600,  900,  1800, 3600,  7200,  10800, 21600, 43200, 86400};
+    static const double steps[]
+        = { 1, 2, 5, 10, 15, 30, 60, 120, 300, 600, 900, 1800, 3600, 7200, 10800, 21600, 43200, 86400 };
     const double span = std::fabs(m_maximum - m_minimum);
     for (double s : steps) {
         if (span / s <= m_majorCount)

@@ -18,8 +18,7 @@
  * showDisenableIcon, setGrayFlag, setImageVisible, showSlashItem,
  * hideSlashItem, getWgtRect, getId.
  */
-class XBaseControl : public QQuickControl
-{
+class XBaseControl : public QQuickControl {
     Q_OBJECT
     Q_PROPERTY(quint32 widgetId READ getId WRITE setId NOTIFY widgetIdChanged)
     Q_PROPERTY(quint32 windowId READ getWindowId WRITE setWindowId NOTIFY windowIdChanged)
@@ -32,13 +31,7 @@ public:
     ~XBaseControl() override;
 
     /** Item type numbers of the registry. */
-    enum ItemType {
-        TypeBase = 0,
-        TypeWindow = 1,
-        TypeText = 2,
-        TypeButton = 3,
-        TypeInvalidFeature = 99
-    };
+    enum ItemType { TypeBase = 0, TypeWindow = 1, TypeText = 2, TypeButton = 3, TypeInvalidFeature = 99 };
     Q_ENUM(ItemType)
 
     Q_INVOKABLE quint32 getId() const { return m_id; }
@@ -59,8 +52,8 @@ public:
     bool grayFlag() const { return m_grayFlag; }
     Q_INVOKABLE virtual void setGrayFlag(bool on);
     Q_INVOKABLE virtual void setImageVisible(bool visible) { Q_UNUSED(visible) }
-    Q_INVOKABLE virtual void showSlashItem() {}
-    Q_INVOKABLE virtual void hideSlashItem() {}
+    Q_INVOKABLE virtual void showSlashItem() { }
+    Q_INVOKABLE virtual void hideSlashItem() { }
     /** True when the widget shows a slash animation (showSlashItem has something to show). */
     virtual bool hasSlashAnimation() const { return false; }
     /** x, y, width and height, truncated to integers. */
@@ -84,7 +77,7 @@ private:
     QBrush m_itemBrush;
     bool m_grayFlag = false;
     QPointer<QQuickItem> m_disEnableIcon; // child item, created on first use
-    QPointer<QQuickItem> m_busyIcon;      // child item, created on first use
+    QPointer<QQuickItem> m_busyIcon; // child item, created on first use
 };
 
 #endif // XBASECONTROL_H

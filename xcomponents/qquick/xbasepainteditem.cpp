@@ -26,8 +26,8 @@ QSize XBasePaintedItem::cappedTextureSize(const QSizeF& size, qreal dpr, const Q
 void XBasePaintedItem::updateTextureSize()
 {
     const QQuickWindow* w = window();
-    const QSize capped = cappedTextureSize(size(), w ? w->effectiveDevicePixelRatio() : 1.0,
-                                           w ? w->size() : QSize());
+    const QSize capped
+        = cappedTextureSize(size(), w ? w->effectiveDevicePixelRatio() : 1.0, w ? w->size() : QSize());
     if (textureSize() != capped)
         setTextureSize(capped);
 }

@@ -12,8 +12,7 @@
  * 100,000 x 100,000 pixels keeps that geometry but costs no more memory than a
  * full-screen one.
  */
-class XBasePaintedItem : public QQuickPaintedItem
-{
+class XBasePaintedItem : public QQuickPaintedItem {
     Q_OBJECT
 
 public:

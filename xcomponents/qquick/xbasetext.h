@@ -11,8 +11,7 @@
  * graph node (BaseTextSgNode); it clips to its box. For fast, single-style
  * texts where the carousel label is not needed.
  */
-class XBaseText : public QQuickItem
-{
+class XBaseText : public QQuickItem {
     Q_OBJECT
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
     Q_PROPERTY(QFont font READ font WRITE setFont NOTIFY fontChanged)

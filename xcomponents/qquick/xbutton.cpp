@@ -3,11 +3,11 @@
 #include "config/globalconfig.h"
 #include "xcomponents/qquick/picturecachemanage.h"
 #include "xcomponents/qquick/xcausetext.h"
-#include "xcomponents/qquick/xwindowlocator.h"
 #include "xcomponents/qquick/xlumodialog.h"
 #include "xcomponents/qquick/xquickimage.h"
 #include "xcomponents/qquick/xsktextlabel.h"
 #include "xcomponents/qquick/xwindow.h"
+#include "xcomponents/qquick/xwindowlocator.h"
 
 #include <QQmlEngine>
 #include <QTouchEvent>
@@ -190,7 +190,7 @@ void XButton::onFontChanged()
 
 void XButton::handOver(const QPointF& pos, bool press)
 {
-    const XWindowLocator* locator = XWindowLocator::instance();
+    const XWindowLocator* locator = XWindowLocator::getInstance();
     QQuickItem* holder = locator ? locator->getWindowObj(getWindowId()) : nullptr;
     if (auto* dialog = qobject_cast<XLumoDialog*>(holder)) {
         const QPointF p = mapToItem(dialog, pos);

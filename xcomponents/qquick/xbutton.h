@@ -23,8 +23,7 @@ class QQuickMouseArea;
  * The caption colour is stored: while the grey flag is set the caption is
  * "gray", and the stored colour returns when the flag is cleared.
  */
-class XButton : public XBaseControl
-{
+class XButton : public XBaseControl {
     Q_OBJECT
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
     Q_PROPERTY(QColor fontColor READ fontColor WRITE setFontColor NOTIFY fontColorChanged)

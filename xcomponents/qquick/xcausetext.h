@@ -15,8 +15,7 @@
  * The text colour is stored: while the grey flag is set the text is shown in
  * "gray" and the stored colour returns when the flag is cleared.
  */
-class XCauseText : public XBaseControl, public XskCauseText
-{
+class XCauseText : public XBaseControl, public XskCauseText {
     Q_OBJECT
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
     Q_PROPERTY(QColor fontColor READ fontColor WRITE setFontColor NOTIFY fontColorChanged)

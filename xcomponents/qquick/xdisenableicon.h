@@ -12,8 +12,7 @@
  * (the colour while the item is enabled, the disabled colour otherwise). The
  * item's box is the icon size plus 2 + 2 pixels in each dimension.
  */
-class XDisEnableIcon : public XBasePaintedItem
-{
+class XDisEnableIcon : public XBasePaintedItem {
     Q_OBJECT
     Q_PROPERTY(QIcon icon READ icon WRITE setIcon NOTIFY iconChanged)
     Q_PROPERTY(QString iconSource READ iconSource WRITE setIconSource NOTIFY iconChanged)

@@ -8,8 +8,7 @@
  * (cameras, media player, remote desktop, web browser, pie chart): a hatched
  * box with the kind's name, so the operator sees that something belongs there.
  */
-class XInvalidFeature : public XBasePaintedItem
-{
+class XInvalidFeature : public XBasePaintedItem {
     Q_OBJECT
     Q_PROPERTY(QString featureName READ featureName WRITE setFeatureName NOTIFY featureNameChanged)
 

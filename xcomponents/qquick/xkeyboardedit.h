@@ -1,16 +1,15 @@
 #ifndef XKEYBOARDEDIT_H
 #define XKEYBOARDEDIT_H
 
-#include <QColor>
 #include "xcomponents/qquick/xbasepainteditem.h"
+#include <QColor>
 
 /**
  * The one-line entry of a keyboard window's title bar: it shows the text the
  * logic layer's input method composes, with a cursor and a selection. It does
  * not take keys itself; the logic layer sets its text and cursor.
  */
-class XKeyBoardEdit : public XBasePaintedItem
-{
+class XKeyBoardEdit : public XBasePaintedItem {
     Q_OBJECT
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
 
@@ -25,9 +24,22 @@ public:
     int cursorPosition() const { return m_cursor; }
     int selectionStart() const { return m_selStart; }
     int selectionEnd() const { return m_selEnd; }
-    void setSelectionColor(const QColor& c) { m_selectionColor = c; update(); }
-    void setTextColor(const QColor& c) { m_textColor = c; update(); }
-    void setBorder(const QColor& c, int width) { m_borderColor = c; m_borderWidth = qMax(0, width); update(); }
+    void setSelectionColor(const QColor& c)
+    {
+        m_selectionColor = c;
+        update();
+    }
+    void setTextColor(const QColor& c)
+    {
+        m_textColor = c;
+        update();
+    }
+    void setBorder(const QColor& c, int width)
+    {
+        m_borderColor = c;
+        m_borderWidth = qMax(0, width);
+        update();
+    }
     void setFixedWidth(int w) { setWidth(qMax(0, w)); }
     void setFixedHeight(int h) { setHeight(qMax(0, h)); }
 
@@ -41,9 +53,9 @@ private:
     int m_cursor = 0;
     int m_selStart = 0;
     int m_selEnd = 0;
-    QColor m_selectionColor{0x6E, 0xA2, 0xE2};
-    QColor m_textColor{Qt::black};
-    QColor m_borderColor{0x6E, 0xA2, 0xE2};
+    QColor m_selectionColor { 0x6E, 0xA2, 0xE2 };
+    QColor m_textColor { Qt::black };
+    QColor m_borderColor { 0x6E, 0xA2, 0xE2 };
     int m_borderWidth = 2;
 };
 

@@ -11,8 +11,7 @@
  * presses to (events 2 and 3 with the id of the registered item under the
  * finger), like XWindow's.
  */
-class XLumoDialog : public XQuickDialog
-{
+class XLumoDialog : public XQuickDialog {
     Q_OBJECT
 
 public:

@@ -41,8 +41,8 @@ QQmlComponent* XQmlComponentManage::component(const QUrl& url)
         return it.value();
     auto* c = new QQmlComponent(m_engine, url, QQmlComponent::PreferSynchronous, this);
     if (c->isError()) {
-        NLog::NLogger::instance()->logger()->error("QML component {}: {}", url.toString().toStdString(),
-                                                   c->errorString().toStdString());
+        NLog::NLogger::instance()->logger()->error(
+            "QML component {}: {}", url.toString().toStdString(), c->errorString().toStdString());
         delete c;
         return nullptr;
     }
@@ -50,7 +50,8 @@ QQmlComponent* XQmlComponentManage::component(const QUrl& url)
     return c;
 }
 
-QQuickItem* XQmlComponentManage::createItem(const QUrl& url, QQuickItem* parent, const QVariantMap& properties)
+QQuickItem* XQmlComponentManage::createItem(
+    const QUrl& url, QQuickItem* parent, const QVariantMap& properties)
 {
     QQmlComponent* c = component(url);
     if (!c)

@@ -2,9 +2,9 @@
 #define XQMLCOMPONENTMANAGE_H
 
 #include <QHash>
-#include <QQmlEngine>
 #include <QObject>
 #include <QPointer>
+#include <QQmlEngine>
 #include <QUrl>
 
 class QQmlComponent;
@@ -17,8 +17,7 @@ class QmlWindowManage;
  * every later item of the same file is created from the cache. Items are made
  * in the engine's root context (or a given one) and parented to an item.
  */
-class XQmlComponentManage : public QObject
-{
+class XQmlComponentManage : public QObject {
     Q_OBJECT
 
 public:

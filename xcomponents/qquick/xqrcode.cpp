@@ -166,8 +166,8 @@ bool XQRCode::setContent(const char* text)
 {
     if (!text)
         text = "";
-    static const qrcodegen::QrCode::Ecc levels[] = {qrcodegen::QrCode::Ecc::LOW, qrcodegen::QrCode::Ecc::MEDIUM,
-                                                    qrcodegen::QrCode::Ecc::QUARTILE, qrcodegen::QrCode::Ecc::HIGH};
+    static const qrcodegen::QrCode::Ecc levels[] = { qrcodegen::QrCode::Ecc::LOW,
+        qrcodegen::QrCode::Ecc::MEDIUM, qrcodegen::QrCode::Ecc::QUARTILE, qrcodegen::QrCode::Ecc::HIGH };
     QByteArray svg;
     try {
         const qrcodegen::QrCode code = qrcodegen::QrCode::encodeText(text, levels[m_ecc]);
@@ -175,7 +175,7 @@ bool XQRCode::setContent(const char* text)
     } catch (const std::exception& e) {
         // too long for the largest symbol at this level: the previous picture stays
         NLog::NLogger::instance()->log(spdlog::level::err, "qgui/xcomponents/XQRCode", "setContent",
-                                       "widget {}: cannot encode {} bytes: {}", m_id, std::strlen(text), e.what());
+            "widget {}: cannot encode {} bytes: {}", m_id, std::strlen(text), e.what());
         return false;
     }
     m_svg = svg;

@@ -22,8 +22,7 @@ class XQRCodeImageProvider;
  * keeps the previous picture and content, and logs the failure. Nothing is
  * drawn until the first content arrives.
  */
-class XQRCode : public XQuickImage
-{
+class XQRCode : public XQuickImage {
     Q_OBJECT
     Q_PROPERTY(int ecc READ ecc WRITE setEcc NOTIFY eccChanged)
     Q_PROPERTY(QColor backColor READ backColor WRITE setBackColor NOTIFY backColorChanged)

@@ -14,8 +14,7 @@
  * size. The last few documents are kept, so that several widgets updated in
  * the same cycle each get their own.
  */
-class XQRCodeImageProvider : public QQuickImageProvider
-{
+class XQRCodeImageProvider : public QQuickImageProvider {
 public:
     XQRCodeImageProvider();
     ~XQRCodeImageProvider() override;

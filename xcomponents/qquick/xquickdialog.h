@@ -10,8 +10,7 @@
  * The content item starts below the header; titleHeight() is the header's
  * height (0 without a header).
  */
-class XQuickDialog : public XPopup
-{
+class XQuickDialog : public XPopup {
     Q_OBJECT
     Q_PROPERTY(QQuickItem* header READ header WRITE setHeader NOTIFY headerChanged)
     Q_PROPERTY(int titleHeight READ titleHeight WRITE setTitleHeight NOTIFY titleHeightChanged)

@@ -10,8 +10,7 @@
  * An item made from C++ has no QML context; ensureContext() gives it the one
  * of \a from (or the engine's root context) so that it can load "image://" URLs.
  */
-class XQuickImage : public QQuickImage
-{
+class XQuickImage : public QQuickImage {
     Q_OBJECT
 
 public:

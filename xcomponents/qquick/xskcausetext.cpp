@@ -11,8 +11,7 @@
 namespace {
 
 /** A diagonal stroke from the bottom-left to the top-right corner, in the colour of the text. */
-class SlashItem : public QQuickItem
-{
+class SlashItem : public QQuickItem {
 public:
     explicit SlashItem(XskTextLabel* label)
         : QQuickItem(label)
@@ -20,8 +19,14 @@ public:
     {
         setFlag(ItemHasContents, true);
         setSize(label->size());
-        QObject::connect(label, &QQuickItem::widthChanged, this, [this] { setSize(m_label->size()); update(); });
-        QObject::connect(label, &QQuickItem::heightChanged, this, [this] { setSize(m_label->size()); update(); });
+        QObject::connect(label, &QQuickItem::widthChanged, this, [this] {
+            setSize(m_label->size());
+            update();
+        });
+        QObject::connect(label, &QQuickItem::heightChanged, this, [this] {
+            setSize(m_label->size());
+            update();
+        });
         QObject::connect(label, &XskTextLabel::colorChanged, this, &QQuickItem::update);
         setZ(1);
     }
@@ -105,18 +110,21 @@ void XskCauseText::makeCarouselLabel()
     QObject::connect(main, &XskTextLabel::fontChanged, c, [c, main] { c->setFont(main->font()); });
     QObject::connect(main, &XskTextLabel::colorChanged, c, [c, main] { c->setColor(main->color()); });
     QObject::connect(main, &XskTextLabel::horizontalAlignmentChanged, c,
-                     [c, main] { c->setHorizontalAlignment(main->horizontalAlignment()); });
+        [c, main] { c->setHorizontalAlignment(main->horizontalAlignment()); });
     QObject::connect(main, &XskTextLabel::verticalAlignmentChanged, c,
-                     [c, main] { c->setVerticalAlignment(main->verticalAlignment()); });
-    QObject::connect(main, &XskTextLabel::aligmentChanged, c, [c, main] { c->setAlignment(main->alignment()); });
+        [c, main] { c->setVerticalAlignment(main->verticalAlignment()); });
+    QObject::connect(
+        main, &XskTextLabel::aligmentChanged, c, [c, main] { c->setAlignment(main->alignment()); });
     QObject::connect(main, &XskTextLabel::fontAligmentChanged, c,
-                     [c, main] { c->setFontAlignment(main->fontAlignment()); });
-    QObject::connect(main, &XskTextLabel::lineSpaceChanged, c, [c, main] { c->setLineSpace(main->lineSpace()); });
-    QObject::connect(main, &XskTextLabel::textHMarginChanged, c,
-                     [c, main] { c->setTextHMargin(main->textHMargin()); });
-    QObject::connect(main, &XskTextLabel::textVMarginChanged, c,
-                     [c, main] { c->setTextVMargin(main->textVMargin()); });
-    QObject::connect(main, &XskTextLabel::wrapModeChanged, c, [c, main] { c->setWrapMode(main->wrapMode()); });
+        [c, main] { c->setFontAlignment(main->fontAlignment()); });
+    QObject::connect(
+        main, &XskTextLabel::lineSpaceChanged, c, [c, main] { c->setLineSpace(main->lineSpace()); });
+    QObject::connect(
+        main, &XskTextLabel::textHMarginChanged, c, [c, main] { c->setTextHMargin(main->textHMargin()); });
+    QObject::connect(
+        main, &XskTextLabel::textVMarginChanged, c, [c, main] { c->setTextVMargin(main->textVMargin()); });
+    QObject::connect(
+        main, &XskTextLabel::wrapModeChanged, c, [c, main] { c->setWrapMode(main->wrapMode()); });
     QObject::connect(main, &QQuickItem::widthChanged, c, [c, main] { c->setWidth(main->width()); });
     QObject::connect(main, &QQuickItem::heightChanged, c, [c, main] { c->setHeight(main->height()); });
 

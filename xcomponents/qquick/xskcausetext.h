@@ -26,8 +26,7 @@ class XskTextLabel;
  * host item (the widget) owns the mask and the labels as QObject children and
  * calls layoutCauseText() when its size changes.
  */
-class XskCauseText
-{
+class XskCauseText {
 public:
     explicit XskCauseText(QQuickItem* host);
     virtual ~XskCauseText();
@@ -55,7 +54,7 @@ public:
     void buttonTextCarouse(const QPoint& step);
     void hideCarouselItem();
     /** The accumulated carousel offset: where the main label sits now. */
-    QPointF carouselOffset() const { return {m_accX, m_accY}; }
+    QPointF carouselOffset() const { return { m_accX, m_accY }; }
 
     /** Shows or hides the slash item and its carousel copy together. */
     void setSlash(bool on);

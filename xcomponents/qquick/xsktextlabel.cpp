@@ -63,7 +63,10 @@ void XskTextLabel::setColor(const QColor& color)
 void XskTextLabel::setHorizontalAlignment(int align)
 {
     switch (align) {
-    case Qt::AlignLeft: case Qt::AlignRight: case Qt::AlignHCenter: case Qt::AlignJustify:
+    case Qt::AlignLeft:
+    case Qt::AlignRight:
+    case Qt::AlignHCenter:
+    case Qt::AlignJustify:
         break;
     default:
         align = Qt::AlignLeft;
@@ -78,7 +81,9 @@ void XskTextLabel::setHorizontalAlignment(int align)
 void XskTextLabel::setVerticalAlignment(int align)
 {
     switch (align) {
-    case Qt::AlignTop: case Qt::AlignBottom: case Qt::AlignVCenter:
+    case Qt::AlignTop:
+    case Qt::AlignBottom:
+    case Qt::AlignVCenter:
         break;
     default:
         align = Qt::AlignTop;

@@ -68,8 +68,8 @@ QQuickItem* XWindow::registeredItemAt(QQuickItem* content, const QPointF& window
     return nullptr;
 }
 
-unsigned XWindow::reportAt(QQuickItem* content, const QQuickItem* window, const QPointF& windowPos,
-                           QQuickItem* source, int code)
+unsigned XWindow::reportAt(
+    QQuickItem* content, const QQuickItem* window, const QPointF& windowPos, QQuickItem* source, int code)
 {
     QQuickItem* hit = registeredItemAt(content, windowPos, window);
     const unsigned id = GId::id(hit ? hit : source);

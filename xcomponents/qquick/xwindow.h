@@ -15,8 +15,7 @@ class QQuickItem;
  * holds them (pressHandler / releaseHandler): the window reports event 2 or 3
  * to the logic layer with the id of the registered item under the finger.
  */
-class XWindow : public XBaseControl
-{
+class XWindow : public XBaseControl {
     Q_OBJECT
     Q_PROPERTY(QQuickItem* windowContent READ windowContent CONSTANT)
 
@@ -38,11 +37,12 @@ public:
     unsigned releaseHandler(const QPointF& windowPos, QQuickItem* source);
 
     /** The registered item under \a windowPos inside \a content (topmost first), or null. */
-    static QQuickItem* registeredItemAt(QQuickItem* content, const QPointF& windowPos, const QQuickItem* window);
+    static QQuickItem* registeredItemAt(
+        QQuickItem* content, const QPointF& windowPos, const QQuickItem* window);
     /** Reports \a code (press or release) for the registered item under \a windowPos, else for
      *  \a source; returns the id reported. Shared by windows and popup windows. */
     static unsigned reportAt(QQuickItem* content, const QQuickItem* window, const QPointF& windowPos,
-                             QQuickItem* source, int code);
+        QQuickItem* source, int code);
     /** Makes \a item the \a slot child of \a owner (deleting the previous one), at \a z and owner size. */
     static void adoptLayer(QPointer<QQuickItem>& slot, QQuickItem* item, QQuickItem* owner, qreal z);
 

@@ -51,7 +51,7 @@ void XWindowBackground::paint(QPainter* painter)
     if (!m_image.isNull()) {
         painter->drawImage(r, m_image);
     } else if (m_hasRecord) {
-        const Brush b{m_recStyle, m_recColor, m_recColor2, m_recAngle};
+        const Brush b { m_recStyle, m_recColor, m_recColor2, m_recAngle };
         painter->fillRect(r, GuiQtAdapt::Core::toQBrush(b, r));
     } else if (m_brush.style() != Qt::NoBrush) {
         painter->fillRect(r, m_brush);

@@ -1,10 +1,10 @@
 #ifndef XWINDOWBACKGROUND_H
 #define XWINDOWBACKGROUND_H
 
+#include "xcomponents/qquick/xbasepainteditem.h"
 #include <QBrush>
 #include <QImage>
 #include <QPen>
-#include "xcomponents/qquick/xbasepainteditem.h"
 
 /**
  * The background (or frame) of a window or popup window: a picture scaled to
@@ -12,8 +12,7 @@
  * relative to the project's image folder; a picture that cannot be read falls
  * back to the fill.
  */
-class XWindowBackground : public XBasePaintedItem
-{
+class XWindowBackground : public XBasePaintedItem {
     Q_OBJECT
 
 public:
@@ -32,8 +31,8 @@ public:
 
 private:
     QImage m_image;
-    QBrush m_brush{Qt::NoBrush};
-    QPen m_pen{Qt::NoPen};
+    QBrush m_brush { Qt::NoBrush };
+    QPen m_pen { Qt::NoPen };
     bool m_hasRecord = false;
     unsigned m_recStyle = 0, m_recColor = 0, m_recColor2 = 0;
     int m_recAngle = 0;

@@ -4,7 +4,7 @@ namespace {
 XWindowLocator* g_locator = nullptr; // GUI thread only
 }
 
-XWindowLocator* XWindowLocator::instance()
+XWindowLocator* XWindowLocator::getInstance()
 {
     return g_locator;
 }

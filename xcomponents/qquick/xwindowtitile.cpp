@@ -63,7 +63,7 @@ QRectF WindowTitile::buttonRect(Button b) const
     const qreal side = height();
     qreal right = width();
     // from the right: close, down, up
-    for (Button each : {CloseButton, DownButton, UpButton}) {
+    for (Button each : { CloseButton, DownButton, UpButton }) {
         if (!(m_buttons & each))
             continue;
         const QRectF r(right - side, 0, side, side);
@@ -76,7 +76,7 @@ QRectF WindowTitile::buttonRect(Button b) const
 
 WindowTitile::Button WindowTitile::buttonAt(const QPointF& pos) const
 {
-    for (Button b : {CloseButton, UpButton, DownButton}) {
+    for (Button b : { CloseButton, UpButton, DownButton }) {
         if (buttonRect(b).contains(pos))
             return b;
     }
@@ -88,7 +88,7 @@ void WindowTitile::paint(QPainter* painter)
     const QRectF all = boundingRect();
     painter->fillRect(all, m_background);
     qreal textRight = width();
-    for (Button b : {CloseButton, UpButton, DownButton}) {
+    for (Button b : { CloseButton, UpButton, DownButton }) {
         const QRectF r = buttonRect(b);
         if (r.isEmpty())
             continue;
@@ -110,7 +110,8 @@ void WindowTitile::paint(QPainter* painter)
     painter->setPen(m_color);
     painter->setFont(m_font);
     const QRectF textRect(reservedLeft() + 8, 0, qMax<qreal>(0, textRight - reservedLeft() - 16), height());
-    painter->drawText(textRect, int(m_alignment), painter->fontMetrics().elidedText(m_title, Qt::ElideRight, int(textRect.width())));
+    painter->drawText(textRect, int(m_alignment),
+        painter->fontMetrics().elidedText(m_title, Qt::ElideRight, int(textRect.width())));
 }
 
 void WindowTitile::press(const QPointF& pos, const QPointF& scenePos)
@@ -144,10 +145,17 @@ void WindowTitile::release(const QPointF& pos)
     if (pressed == NoButton || buttonAt(pos) != pressed)
         return; // released elsewhere: no click
     switch (pressed) {
-    case CloseButton: Q_EMIT closeClicked(); break;
-    case UpButton: Q_EMIT upClicked(); break;
-    case DownButton: Q_EMIT downClicked(); break;
-    default: break;
+    case CloseButton:
+        Q_EMIT closeClicked();
+        break;
+    case UpButton:
+        Q_EMIT upClicked();
+        break;
+    case DownButton:
+        Q_EMIT downClicked();
+        break;
+    default:
+        break;
     }
 }
 
@@ -177,15 +185,22 @@ void WindowTitile::touchEvent(QTouchEvent* event)
     }
     const QTouchEvent::TouchPoint& tp = event->touchPoints().first();
     switch (event->type()) {
-    case QEvent::TouchBegin: press(tp.pos(), tp.scenePos()); break;
-    case QEvent::TouchUpdate: move(tp.scenePos()); break;
-    case QEvent::TouchEnd: release(tp.pos()); break;
+    case QEvent::TouchBegin:
+        press(tp.pos(), tp.scenePos());
+        break;
+    case QEvent::TouchUpdate:
+        move(tp.scenePos());
+        break;
+    case QEvent::TouchEnd:
+        release(tp.pos());
+        break;
     case QEvent::TouchCancel:
         m_pressedButton = NoButton;
         m_dragging = false;
         update();
         break;
-    default: break;
+    default:
+        break;
     }
     event->accept();
 }

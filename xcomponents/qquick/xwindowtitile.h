@@ -1,10 +1,10 @@
 #ifndef XWINDOWTITILE_H
 #define XWINDOWTITILE_H
 
+#include "xcomponents/qquick/xbasepainteditem.h"
 #include <QBrush>
 #include <QColor>
 #include <QFont>
-#include "xcomponents/qquick/xbasepainteditem.h"
 
 /**
  * The title bar of a popup window: the title text and up to three buttons
@@ -13,8 +13,7 @@
  * it), a press elsewhere emits titlePressed and, while the finger moves,
  * moveOffset with the distance moved since the last report.
  */
-class WindowTitile : public XBasePaintedItem
-{
+class WindowTitile : public XBasePaintedItem {
     Q_OBJECT
     Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged)
 
@@ -63,8 +62,8 @@ private:
 
     QString m_title;
     QFont m_font;
-    QColor m_color{Qt::white};
-    QBrush m_background{QColor(0x2B, 0x3A, 0x4A)};
+    QColor m_color { Qt::white };
+    QBrush m_background { QColor(0x2B, 0x3A, 0x4A) };
     Qt::Alignment m_alignment = Qt::AlignCenter;
     int m_buttons = CloseButton;
     Button m_pressedButton = NoButton;
