@@ -370,12 +370,18 @@ QList<DbQueryResult> DDatabase::doQuery(unsigned dbNo, const QList<DQuery>& batc
             }
             q.finish();
         }
-        // Committed whether or not a statement failed: the others stay.
+        // Committed whether or not a statement failed: the others stay. A refused commit
+        // keeps nothing of the request, so its error is the one reported, over any
+        // statement's.
         if (transaction && !db.commit()) {
             const QSqlError e = db.lastError();
             logQueryError(e, "COMMIT");
-            if (r.errorType == 0)
-                setError(r, e);
+            setError(r, e);
+            // SQLite leaves the transaction open when COMMIT is refused (a deferred foreign
+            // key): end it, or the connection's next BEGIN fails and its statements would
+            // join this transaction.
+            if (db.isOpen())
+                db.rollback();
         }
         if (r.errorType != 0)
             alive(db);

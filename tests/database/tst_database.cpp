@@ -6,9 +6,13 @@
 
 #include "common/mariadbserver.h"
 #include "common/pgserver.h"
+#include "database/dbconn_pool.h"
+#include "database/ddatabase.h"
+#include "platform/nlogger.h"
 
 #include <QDir>
 #include <QSqlDatabase>
+#include <QSqlQuery>
 #include <QTemporaryDir>
 
 #include <map>
@@ -101,6 +105,8 @@ private Q_SLOTS:
     void read_returns_rows_in_column_order_with_null_as_empty();
     void failed_statement_leaves_the_others_of_its_request_committed_data() { drivers(); }
     void failed_statement_leaves_the_others_of_its_request_committed();
+    void failed_commit_is_reported_over_statement_errors_and_every_failure_is_logged_data();
+    void failed_commit_is_reported_over_statement_errors_and_every_failure_is_logged();
     void requests_are_answered_in_queue_order_data() { drivers(); }
     void requests_are_answered_in_queue_order();
     void the_8193rd_waiting_request_of_a_kind_is_refused_at_once_data() { drivers(); }
@@ -248,6 +254,95 @@ void tst_Database::failed_statement_leaves_the_others_of_its_request_committed()
     QCOMPARE(rows.rows.size(), size_t(2));
     QCOMPARE(rows.rows[0][0], std::string("1"));
     QCOMPARE(rows.rows[1][0], std::string("3"));
+}
+
+void tst_Database::failed_commit_is_reported_over_statement_errors_and_every_failure_is_logged_data()
+{
+    QTest::addColumn<QStringList>("sqls");
+    QTest::addColumn<bool>("commitError"); // reported: the commit's error, else a statement's
+    QTest::addColumn<QString>("errorText"); // a part of the reported error text
+    QTest::addColumn<QStringList>("logged"); // the statements whose failure is logged
+    QTest::addColumn<int>("kept"); // rows of t_child after the request
+
+    const QString good = QStringLiteral("insert into t_child values (1, 1)");
+    const QString notNull = QStringLiteral("insert into t_child values (NULL, 1)");
+    const QString syntax = QStringLiteral("insert into t_child valuez (2, 1)");
+    const QString orphan = QStringLiteral("insert into t_child values (3, 99)"); // no parent 99
+    const QString commit = QStringLiteral("COMMIT");
+    QTest::newRow("statements and commit fail")
+        << QStringList { good, notNull, syntax, orphan } << true << QStringLiteral("FOREIGN KEY")
+        << QStringList { notNull, syntax, commit } << 0;
+    QTest::newRow("only the commit fails") << QStringList { good, orphan } << true
+                                           << QStringLiteral("FOREIGN KEY") << QStringList { commit } << 0;
+    QTest::newRow("statements fail, the commit succeeds: the first failure")
+        << QStringList { good, notNull, syntax } << false << QStringLiteral("NOT NULL")
+        << QStringList { notNull, syntax } << 1;
+}
+
+void tst_Database::failed_commit_is_reported_over_statement_errors_and_every_failure_is_logged()
+{
+    QFETCH(QStringList, sqls);
+    QFETCH(bool, commitError);
+    QFETCH(QString, errorText);
+    QFETCH(QStringList, logged);
+    QFETCH(int, kept);
+
+    NLog::NLogger* logger = NLog::NLogger::instance();
+    QVERIFY(logger->setLogFolder(m_dir.filePath(QStringLiteral("log")).toStdString()));
+    QFile logFile(QString::fromStdString(logger->logFile()));
+
+    sync(kSqlite, "drop table if exists t_child");
+    sync(kSqlite, "drop table if exists t_parent");
+    QVERIFY(sync(kSqlite, "create table t_parent (id integer primary key)").errorType == 0);
+    QVERIFY(sync(kSqlite, "insert into t_parent values (1)").errorType == 0);
+    QVERIFY(sync(kSqlite,
+                "create table t_child (v int not null, parent int references t_parent (id) "
+                "deferrable initially deferred)")
+                .errorType
+        == 0);
+
+    // A deferred foreign key is only checked at COMMIT, and SQLite only checks foreign keys
+    // on a connection that switched them on outside a transaction: the batch runs here, on
+    // this thread's connection of the pool, through the same code as a worker's.
+    {
+        QSqlDatabase db = xDatabase::DbConn_Pool::instance()->pull(kSqlite);
+        QSqlQuery pragma(db);
+        QVERIFY(pragma.exec(QStringLiteral("pragma foreign_keys = on")));
+    }
+    logger->flush();
+    const qint64 logStart = logFile.size();
+
+    xDatabase::DQuery request { 21, {} };
+    for (const QString& sql : qAsConst(sqls))
+        request.sqls.push_back(sql.toStdString());
+    const QList<DbQueryResult> results = xDatabase::DDatabase::doQuery(kSqlite, { request });
+    QCOMPARE(results.size(), 1);
+    const DbQueryResult& r = results.first();
+    QCOMPARE(r.queryId, 21u);
+    // SQLite's statement failures come as connection errors (1) from the driver; the commit's
+    // as a transaction error (3).
+    QVERIFY2(commitError ? r.errorType == 3 : r.errorType != 0 && r.errorType != 3, qPrintable(describe(r)));
+    QVERIFY2(QString::fromStdString(r.errorText).contains(errorText), qPrintable(describe(r)));
+
+    logger->flush();
+    QVERIFY(logFile.open(QIODevice::ReadOnly));
+    QVERIFY(logFile.seek(logStart));
+    const QString log = QString::fromUtf8(logFile.readAll());
+    logFile.close();
+    for (const QString& sql : qAsConst(logged))
+        QVERIFY2(log.contains(QStringLiteral("sql:[%1]").arg(sql)),
+            qPrintable(sql + QLatin1String(" not in:\n") + log));
+    QCOMPARE(log.count(QStringLiteral("Sql Error")), logged.size());
+
+    // A refused commit ends its transaction: the next request on the same connection runs
+    // in a transaction of its own and is committed.
+    xDatabase::DQuery next { 22, { "insert into t_child values (5, 1)" } };
+    const DbQueryResult after = xDatabase::DDatabase::doQuery(kSqlite, { next }).value(0);
+    QVERIFY2(after.errorType == 0, qPrintable(describe(after)));
+    const DbQueryResult rows = sync(kSqlite, "select count(*), sum(v = 5) from t_child", true);
+    QVERIFY2(rows.errorType == 0, qPrintable(describe(rows)));
+    QCOMPARE(rows.rows.at(0).at(0), std::to_string(kept + 1));
+    QCOMPARE(rows.rows.at(0).at(1), std::string("1"));
 }
 
 void tst_Database::requests_are_answered_in_queue_order()
