@@ -9,6 +9,7 @@
 
 #include <QCoreApplication>
 #include <QNetworkConfigurationManager>
+#include <QPointer>
 #include <QThread>
 
 namespace MQTT {
@@ -97,6 +98,24 @@ XMqttClient* QMqtt_App::create(unsigned handle)
     connect(
         c, &XMqttClient::errorChanged, c, [handle, c] { postEvent(handle, EVT_MQTT_ERROR, int(c->error())); },
         Qt::DirectConnection);
+    // Automatic attempts of a long connection: planned and started on the GUI thread, under
+    // the mutex like every other operation.
+    QPointer<QMqtt_App> self(this);
+    connect(
+        c, &XMqttClient::retryWanted, c,
+        [self, c] {
+            if (!self)
+                return;
+            QMutexLocker lock(&self->m_mutex);
+            c->scheduleRetry();
+        },
+        Qt::QueuedConnection);
+    connect(c, &XMqttClient::retryDue, c, [self, c](quint64 generation) {
+        if (!self)
+            return;
+        QMutexLocker lock(&self->m_mutex);
+        c->retryConnect(generation);
+    });
     if (m_network) {
         QT_WARNING_PUSH
         QT_WARNING_DISABLE_DEPRECATED

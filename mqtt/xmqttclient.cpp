@@ -2,10 +2,12 @@
 
 #include "platform/nlogger.h"
 
-#include <QThread>
+#include <QTimer>
 
+#include <algorithm>
 #include <chrono>
 #include <condition_variable>
+#include <cstdlib>
 #include <thread>
 
 std::mutex XMqttClient::s_mapMutex;
@@ -22,38 +24,222 @@ spdlog::logger* log()
 /* Paho reads these while connecting, so they must outlive the connect call. */
 const char kSystemCaPath[] = "/etc/ssl/certs";
 
-/* Waits, bounded, for a Paho operation's answer; outlives the wait when it times out. */
-struct PahoWaiter {
-    std::mutex mutex;
-    bool done = false;
-    std::condition_variable cv;
-    static void onDone(void* context, MQTTAsync_successData*) { static_cast<PahoWaiter*>(context)->finish(); }
-    static void onFailed(void* context, MQTTAsync_failureData*)
-    {
-        static_cast<PahoWaiter*>(context)->finish();
-    }
-    static void onDone5(void* context, MQTTAsync_successData5*)
-    {
-        static_cast<PahoWaiter*>(context)->finish();
-    }
-    static void onFailed5(void* context, MQTTAsync_failureData5*)
-    {
-        static_cast<PahoWaiter*>(context)->finish();
-    }
-    void finish()
-    {
-        std::lock_guard<std::mutex> lock(mutex);
-        done = true;
-        cv.notify_all();
-    }
-    bool wait(int ms)
-    {
-        std::unique_lock<std::mutex> lock(mutex);
-        return cv.wait_for(lock, std::chrono::milliseconds(ms), [this] { return done; });
-    }
-};
+/* What a call-back of a retired handle tells the reaper. */
+enum ReaperEvent { ConnectAnswered, ConnectSucceeded, ConnectionLost, DisconnectAnswered, OtherCallBack };
 
 } // namespace
+
+/**
+ * Destroys retired Paho handles on a thread of its own, never on the caller's.
+ *
+ * A handle is destroyed only when its connect (if one was pending) has been answered, a
+ * disconnect has been asked for (and answered, when it was connected) and none of its
+ * call-backs has run for kSettleMs: Paho 1.3 has crashed when a handle was destroyed while
+ * connecting, or right after a failed connect. A connect that Paho never answers (it should,
+ * within its own time-out) leaves the handle to the library rather than risk that.
+ *
+ * Lock order: the client map's mutex, then this one. Paho is never called with this mutex
+ * held, since Paho holds its own mutex while it calls back.
+ *
+ * The instance is never deleted (late call-backs may still look it up); its thread ends at
+ * process exit, after a bounded wait for the handles still being reaped.
+ */
+class HandleReaper {
+public:
+    static constexpr int kSettleMs = 200;
+    /** Longest wait for a pending connect's answer: two protocol versions may be tried, each
+     *  with the connect time-out, and Paho looks at time-outs every 3 s. */
+    static constexpr int kConnectAnswerMs = (2 * XMqttClient::kConnectTimeout + 10) * 1000;
+
+    static HandleReaper& instance()
+    {
+        static HandleReaper* reaper = new HandleReaper;
+        return *reaper;
+    }
+
+    /** Takes over a handle (the client map's mutex is held). */
+    void adopt(MQTTAsync handle, void* token, bool v5, int graceMs, bool connectPending, QByteArray user,
+        QByteArray password)
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        const Clock::time_point now = Clock::now();
+        Retired& r = m_retired[token];
+        r.handle = handle;
+        r.v5 = v5;
+        r.graceMs = graceMs;
+        r.connectPending = connectPending;
+        r.connectDeadline = now + std::chrono::milliseconds(kConnectAnswerMs);
+        r.lastCallBack = now;
+        r.user = std::move(user);
+        r.password = std::move(password);
+        if (!m_thread.joinable() && !m_stopping) {
+            log(); // the logger outlives the exit handler registered after it
+            m_thread = std::thread([this] { run(); });
+            std::atexit(&HandleReaper::finishAtExit);
+        }
+        m_wake.notify_all();
+    }
+
+    /** A call-back of a handle that is no longer a client's (any Paho thread). */
+    void notify(void* token, int event)
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        auto it = m_retired.find(token);
+        if (it == m_retired.end())
+            return; // destroyed already
+        Retired& r = it->second;
+        r.lastCallBack = Clock::now();
+        switch (event) {
+        case ConnectSucceeded:
+            r.connectPending = false;
+            r.disconnectAsked = false; // connected after all: disconnect (again)
+            break;
+        case ConnectAnswered:
+            r.connectPending = false;
+            break;
+        case DisconnectAnswered:
+            r.disconnectPending = false;
+            break;
+        default:
+            break;
+        }
+        m_wake.notify_all();
+    }
+
+    int count()
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        return int(m_retired.size());
+    }
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    struct Retired {
+        MQTTAsync handle = nullptr;
+        bool v5 = false;
+        int graceMs = 0;
+        bool connectPending = false;
+        bool disconnectAsked = false;
+        bool disconnectPending = false;
+        Clock::time_point connectDeadline;
+        Clock::time_point disconnectDeadline;
+        Clock::time_point lastCallBack;
+        QByteArray user; ///< what the handle's connect was given, kept while Paho may read it
+        QByteArray password;
+    };
+
+    HandleReaper() = default;
+
+    static void finishAtExit() { instance().finish(); }
+
+    /** Process exit: lets the thread reap what it can within the connect time-outs, then joins it. */
+    void finish()
+    {
+        {
+            std::lock_guard<std::mutex> lock(m_mutex);
+            m_stopping = true;
+            m_stopDeadline = Clock::now() + std::chrono::milliseconds(kConnectAnswerMs);
+            m_wake.notify_all();
+        }
+        if (m_thread.joinable())
+            m_thread.join();
+    }
+
+    void run()
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        for (;;) {
+            const Clock::time_point now = Clock::now();
+            if (m_stopping && (m_retired.empty() || now >= m_stopDeadline))
+                break;
+            Clock::time_point wake = now + std::chrono::seconds(1);
+            void* token = nullptr;
+            bool destroy = false;
+            for (auto it = m_retired.begin(); it != m_retired.end() && !token;) {
+                Retired& r = it->second;
+                if (r.connectPending) {
+                    if (now < r.connectDeadline) {
+                        wake = std::min(wake, r.connectDeadline);
+                        ++it;
+                        continue;
+                    }
+                    // Never answered: destroying it could crash Paho, so it is left to Paho.
+                    log()->warn("mqtt: a retired connection never answered its connect; left to the library");
+                    it = m_retired.erase(it);
+                    continue;
+                }
+                if (!r.disconnectAsked) {
+                    token = it->first;
+                    break;
+                }
+                if (r.disconnectPending && now < r.disconnectDeadline) {
+                    wake = std::min(wake, r.disconnectDeadline);
+                    ++it;
+                    continue;
+                }
+                const Clock::time_point quiet = r.lastCallBack + std::chrono::milliseconds(kSettleMs);
+                if (now < quiet) {
+                    wake = std::min(wake, quiet);
+                    ++it;
+                    continue;
+                }
+                token = it->first;
+                destroy = true;
+            }
+            if (!token) {
+                m_wake.wait_until(lock, wake);
+                continue;
+            }
+
+            if (destroy) {
+                auto it = m_retired.find(token);
+                MQTTAsync handle = it->second.handle;
+                m_retired.erase(it); // its call-backs from now on find nothing
+                lock.unlock();
+                MQTTAsync_destroy(&handle);
+                lock.lock();
+                continue;
+            }
+
+            Retired& r = m_retired[token];
+            r.disconnectAsked = true;
+            r.disconnectPending = true; // before the call: the answer may come before it returns
+            r.disconnectDeadline = now + std::chrono::milliseconds(r.graceMs + 2000);
+            MQTTAsync handle = r.handle;
+            const bool v5 = r.v5;
+            const int graceMs = r.graceMs;
+            lock.unlock();
+            // Also when it is not connected: Paho then only forgets that it should be.
+            MQTTAsync_disconnectOptions opts = MQTTAsync_disconnectOptions_initializer;
+            opts.timeout = graceMs;
+            if (v5) { // an MQTT 5 handle takes only the call-backs of version 5
+                opts.onSuccess5 = &XMqttClient::onDisconnectServer5;
+                opts.onFailure5 = &XMqttClient::onDisconnectFailureServer5;
+            } else {
+                opts.onSuccess = &XMqttClient::onDisconnectServer;
+                opts.onFailure = &XMqttClient::onDisconnectFailureServer;
+            }
+            opts.context = token;
+            const int rc = MQTTAsync_disconnect(handle, &opts);
+            lock.lock();
+            auto it = m_retired.find(token);
+            if (rc != MQTTASYNC_SUCCESS && it != m_retired.end())
+                it->second.disconnectPending = false; // not connected: no answer will come
+        }
+        if (!m_retired.empty()) {
+            log()->warn("mqtt: {} retired connection(s) still connecting at exit; left to the library",
+                m_retired.size());
+        }
+    }
+
+    std::mutex m_mutex;
+    std::condition_variable m_wake;
+    std::map<void*, Retired> m_retired; ///< by context token
+    std::thread m_thread;
+    bool m_stopping = false;
+    Clock::time_point m_stopDeadline;
+};
 
 XMqttClient::XMqttClient(QObject* parent)
     : QObject(parent)
@@ -67,7 +253,12 @@ XMqttClient::XMqttClient(QObject* parent)
 
 XMqttClient::~XMqttClient()
 {
-    destroyMQTT(0);
+    retireHandle(0);
+}
+
+int XMqttClient::retiredHandles()
+{
+    return HandleReaper::instance().count();
 }
 
 QByteArray XMqttClient::serverUri() const
@@ -76,13 +267,19 @@ QByteArray XMqttClient::serverUri() const
         + QByteArray::number(m_port);
 }
 
-template <typename Fn> void XMqttClient::route(void* context, Fn&& fn)
+template <typename Fn> void XMqttClient::route(void* context, int event, Fn&& fn)
 {
-    std::lock_guard<std::mutex> lock(s_mapMutex);
-    auto it = s_clients.find(context);
-    if (it == s_clients.end())
-        return; // a replaced or destroyed Paho handle
-    fn(it->second);
+    {
+        std::lock_guard<std::mutex> lock(s_mapMutex);
+        auto it = s_clients.find(context);
+        if (it != s_clients.end()) {
+            fn(it->second);
+            return;
+        }
+    }
+    // A retired handle: the client never hears of it, the reaper does. A handle leaves the
+    // map and joins the reaper under the map's mutex, so no call-back falls in between.
+    HandleReaper::instance().notify(context, event);
 }
 
 void XMqttClient::setState(ClientState state)
@@ -133,10 +330,40 @@ XMqttClient::Error XMqttClient::errorFromReason(int reasonCode)
 
 void XMqttClient::connectToHost()
 {
-    destroyMQTT(0);
+    ++m_retryGeneration; // a pending automatic attempt is off
+    m_retrying = false;
     m_userDisconnected = false;
+    startConnect(false);
+}
+
+void XMqttClient::scheduleRetry()
+{
+    if (!m_longConnect || m_userDisconnected || state() == Connected || m_connectPending)
+        return;
+    // The first attempt 1 s after the loss, then at doubling intervals while attempts fail.
+    m_retryInterval = m_retrying ? qMin(m_retryInterval * 2, int(kMaxRetryInterval)) : int(kMinRetryInterval);
+    const quint64 generation = m_retryGeneration;
+    QTimer::singleShot(m_retryInterval * 1000, this, [this, generation] {
+        if (generation == m_retryGeneration)
+            Q_EMIT retryDue(generation);
+    });
+}
+
+void XMqttClient::retryConnect(quint64 generation)
+{
+    if (generation != m_retryGeneration || !m_longConnect || m_userDisconnected || state() == Connected
+        || m_connectPending)
+        return;
+    m_retrying = true;
+    startConnect(true);
+}
+
+void XMqttClient::startConnect(bool automatic)
+{
+    retireHandle(0);
     if (m_version != MQTT_Default && m_version != MQTT_3_1 && m_version != MQTT_3_1_1
         && m_version != MQTT_5_0) {
+        m_retrying = false;
         setError(InvalidProtocolVersion);
         setState(Disconnected);
         return;
@@ -155,6 +382,7 @@ void XMqttClient::connectToHost()
         &handle, uri.constData(), clientId.constData(), MQTTCLIENT_PERSISTENCE_NONE, nullptr, &create);
     if (rc != MQTTASYNC_SUCCESS) {
         log()->warn("mqtt client {}: cannot create a client for {} ({})", m_id, uri.toStdString(), rc);
+        m_retrying = false;
         setError(UnknownError);
         setState(Disconnected);
         return;
@@ -189,11 +417,9 @@ void XMqttClient::connectToHost()
     m_connectPassword = m_password.toUtf8();
     opts.username = m_connectUser.isEmpty() ? nullptr : m_connectUser.constData();
     opts.password = m_connectPassword.isEmpty() ? nullptr : m_connectPassword.constData();
-    if (m_longConnect) {
-        opts.automaticReconnect = 1;
-        opts.minRetryInterval = kMinRetryInterval;
-        opts.maxRetryInterval = kMaxRetryInterval;
-    }
+    // No automatic reconnection by Paho: its attempts run unseen, and a handle must not be
+    // destroyed while it connects. Lost long connections are retried by scheduleRetry().
+    opts.automaticReconnect = 0;
     MQTTAsync_SSLOptions ssl = MQTTAsync_SSLOptions_initializer;
     if (m_secure) {
         ssl.enableServerCertAuth = 1;
@@ -202,7 +428,8 @@ void XMqttClient::connectToHost()
         opts.ssl = &ssl;
     }
 
-    setState(Connecting);
+    if (!automatic)
+        setState(Connecting);
     m_connectPending = true;
     rc = MQTTAsync_connect(handle, &opts);
     if (rc != MQTTASYNC_SUCCESS) {
@@ -211,55 +438,34 @@ void XMqttClient::connectToHost()
         setError(rc == MQTTASYNC_BAD_UTF8_STRING || rc == MQTTASYNC_BAD_MQTT_OPTION ? UnknownError
                                                                                     : TransportInvalid);
         setState(Disconnected);
+        if (automatic)
+            Q_EMIT retryWanted(); // the next attempt, later
     }
 }
 
 void XMqttClient::disconnectFromHost(bool force)
 {
+    ++m_retryGeneration;
+    m_retrying = false;
     m_userDisconnected = true;
-    destroyMQTT(force ? 0 : 1000);
+    retireHandle(force ? 0 : 1000);
     setState(Disconnected);
 }
 
-void XMqttClient::destroyMQTT(int graceMs)
+void XMqttClient::retireHandle(int graceMs)
 {
     if (!m_client)
         return;
-    // Paho may crash when a client is destroyed while its connect is still under way: let
-    // the connect be answered first (bounded by its own time-out).
-    for (int waited = 0; m_connectPending && waited < (kConnectTimeout + 2) * 1000; waited += 10)
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-
     {
         std::lock_guard<std::mutex> lock(s_mapMutex);
-        s_clients.erase(m_context); // from now on its call-backs are ignored
+        s_clients.erase(m_context); // from now on its call-backs reach the reaper only
+        HandleReaper::instance().adopt(m_client, m_context, m_clientV5, graceMs,
+            m_connectPending.exchange(false), std::move(m_connectUser), std::move(m_connectPassword));
     }
-    m_connectPending = false;
-    MQTTAsync handle = m_client;
     m_client = nullptr;
     m_context = nullptr;
-
-    if (MQTTAsync_isConnected(handle)) {
-        auto* waiter = new PahoWaiter;
-        MQTTAsync_disconnectOptions opts = MQTTAsync_disconnectOptions_initializer;
-        opts.timeout = graceMs;
-        if (m_clientV5) { // an MQTT 5 handle takes only the call-backs of version 5
-            opts.onSuccess5 = &PahoWaiter::onDone5;
-            opts.onFailure5 = &PahoWaiter::onFailed5;
-        } else {
-            opts.onSuccess = &PahoWaiter::onDone;
-            opts.onFailure = &PahoWaiter::onFailed;
-        }
-        opts.context = waiter;
-        bool answered = true;
-        if (MQTTAsync_disconnect(handle, &opts) == MQTTASYNC_SUCCESS)
-            answered = waiter->wait(graceMs + 2000);
-        if (answered)
-            delete waiter;
-        else
-            log()->warn("mqtt client {}: no answer to disconnect", m_id); // the waiter is left to Paho
-    }
-    MQTTAsync_destroy(&handle);
+    m_connectUser.clear();
+    m_connectPassword.clear();
 }
 
 int XMqttClient::publish(const QByteArray& topic, const QByteArray& payload, int qos, bool retain)
@@ -287,13 +493,14 @@ void XMqttClient::onlineStateChanged(bool online)
 {
     if (online && m_longConnect && !m_userDisconnected && m_client && state() == Disconnected
         && !m_connectPending)
-        connectToHost();
+        retryConnect(++m_retryGeneration); // now, instead of the waiting attempt
 }
 
 void XMqttClient::onConnectServer(void* context, MQTTAsync_successData*)
 {
-    route(context, [](XMqttClient* c) {
+    route(context, ConnectSucceeded, [](XMqttClient* c) {
         c->m_connectPending = false;
+        c->m_retrying = false;
         c->setState(Connected);
         c->setError(NoError);
     });
@@ -303,11 +510,13 @@ void XMqttClient::onConnectFailureServer(void* context, MQTTAsync_failureData* r
 {
     const int code = response ? response->code : MQTTASYNC_FAILURE;
     const std::string text = response && response->message ? response->message : "";
-    route(context, [code, &text](XMqttClient* c) {
+    route(context, ConnectAnswered, [code, &text](XMqttClient* c) {
         log()->warn("mqtt client {}: connect failed ({} {})", c->m_id, code, text);
         c->m_connectPending = false;
         c->setError(errorFromConnack(code));
         c->setState(Disconnected);
+        if (c->m_retrying)
+            Q_EMIT c->retryWanted();
     });
 }
 
@@ -320,19 +529,21 @@ void XMqttClient::onConnectFailureServer5(void* context, MQTTAsync_failureData5*
 {
     const int reason = response ? int(response->reasonCode) : 0;
     const int code = response ? response->code : MQTTASYNC_FAILURE;
-    route(context, [reason, code](XMqttClient* c) {
+    route(context, ConnectAnswered, [reason, code](XMqttClient* c) {
         log()->warn("mqtt client {}: connect failed (reason {:#x}, code {})", c->m_id, reason, code);
         c->m_connectPending = false;
         c->setError(reason ? errorFromReason(reason) : TransportInvalid);
         c->setState(Disconnected);
+        if (c->m_retrying)
+            Q_EMIT c->retryWanted();
     });
 }
 
 void XMqttClient::connectedServer(void* context, char*)
 {
-    // Called for every connection, automatic reconnections included.
-    route(context, [](XMqttClient* c) {
+    route(context, ConnectSucceeded, [](XMqttClient* c) {
         c->m_connectPending = false;
+        c->m_retrying = false;
         c->setState(Connected);
         c->setError(NoError);
     });
@@ -341,17 +552,18 @@ void XMqttClient::connectedServer(void* context, char*)
 void XMqttClient::connectionLostServer(void* context, char* cause)
 {
     const std::string text = cause ? cause : "";
-    route(context, [&text](XMqttClient* c) {
+    route(context, ConnectionLost, [&text](XMqttClient* c) {
         log()->warn("mqtt client {}: connection lost {}", c->m_id, text);
         c->setError(TransportInvalid);
         c->setState(Disconnected);
+        Q_EMIT c->retryWanted(); // a long connection comes back (decided on the client's thread)
     });
 }
 
 void XMqttClient::onPublishFailureServer(void* context, MQTTAsync_failureData* response)
 {
     const int code = response ? response->code : MQTTASYNC_FAILURE;
-    route(context, [code](XMqttClient* c) {
+    route(context, OtherCallBack, [code](XMqttClient* c) {
         log()->warn("mqtt client {}: a message was not delivered ({})", c->m_id, code);
     });
 }
@@ -359,9 +571,30 @@ void XMqttClient::onPublishFailureServer(void* context, MQTTAsync_failureData* r
 void XMqttClient::onPublishFailureServer5(void* context, MQTTAsync_failureData5* response)
 {
     const int code = response ? response->code : MQTTASYNC_FAILURE;
-    route(context, [code](XMqttClient* c) {
+    route(context, OtherCallBack, [code](XMqttClient* c) {
         log()->warn("mqtt client {}: a message was not delivered ({})", c->m_id, code);
     });
+}
+
+// Disconnects are asked for by the reaper only, for retired handles.
+void XMqttClient::onDisconnectServer(void* context, MQTTAsync_successData*)
+{
+    HandleReaper::instance().notify(context, DisconnectAnswered);
+}
+
+void XMqttClient::onDisconnectFailureServer(void* context, MQTTAsync_failureData*)
+{
+    HandleReaper::instance().notify(context, DisconnectAnswered);
+}
+
+void XMqttClient::onDisconnectServer5(void* context, MQTTAsync_successData5*)
+{
+    HandleReaper::instance().notify(context, DisconnectAnswered);
+}
+
+void XMqttClient::onDisconnectFailureServer5(void* context, MQTTAsync_failureData5*)
+{
+    HandleReaper::instance().notify(context, DisconnectAnswered);
 }
 
 int XMqttClient::messageArrivedServer(void* context, char* topic, int, MQTTAsync_message* message)

@@ -21,6 +21,16 @@
  * its Paho handle or itself is destroyed, so no call-back touches a destroyed client.
  * Call-backs only change the state and the error (atomics) and emit signals.
  *
+ * A Paho handle that is replaced or dropped is retired: its token leaves the map at once
+ * and the handle goes to a reaper thread, which lets a pending connect be answered, asks
+ * Paho to disconnect, waits for the call-backs to end and only then destroys the handle.
+ * Nothing here waits for the broker, so every method returns at once.
+ *
+ * Every connect attempt is started here (Paho's automatic reconnection is not used), so
+ * the reaper always knows whether a retired handle may still be connecting. A long
+ * connection that is lost is connected again by a timer of the client (retryWanted /
+ * retryDue, run by the manager under its mutex).
+ *
  * All other methods are called with the manager's mutex held, never from a Paho
  * call-back (Paho forbids destroying a client from inside its own call-backs).
  */
@@ -90,8 +100,17 @@ public:
     /** Replaces the Paho handle by a new one and starts connecting (state 1). */
     void connectToHost();
     /** Ends the connection and drops the Paho handle (state 0). \a force: no grace time for
-     *  messages in flight. */
+     *  messages in flight (otherwise up to 1 s, taken by the reaper, not by the caller). */
     void disconnectFromHost(bool force);
+    /** A long connection that is down: the next automatic attempt after the current interval
+     *  (1 s after a loss, doubling up to 30 s while attempts fail). On the client's thread. */
+    void scheduleRetry();
+    /** The automatic attempt \a generation is due: connects again unless something else
+     *  happened meanwhile (connect, disconnect, success). */
+    void retryConnect(quint64 generation);
+
+    /** Retired Paho handles not yet destroyed (all clients). */
+    static int retiredHandles();
     /** Hands one message to Paho. 0, or -1 when it was not accepted. */
     int publish(const QByteArray& topic, const QByteArray& payload, int qos, bool retain);
 
@@ -105,11 +124,19 @@ Q_SIGNALS:
     void errorChanged();
     void connected();
     void disconnected();
+    /** A long connection went down or an automatic attempt failed (any thread). */
+    void retryWanted();
+    /** The retry timer ran out (client's thread). */
+    void retryDue(quint64 generation);
 
 private:
     void setState(ClientState state);
     void setError(Error error);
-    void destroyMQTT(int graceMs);
+    /** Starts a connect on a new Paho handle; \a automatic: an attempt of the retry timer,
+     *  which does not report state 1. */
+    void startConnect(bool automatic);
+    /** Hands the Paho handle to the reaper; returns at once. */
+    void retireHandle(int graceMs);
 
     static Error errorFromConnack(int code);
     static Error errorFromReason(int reasonCode);
@@ -123,9 +150,17 @@ private:
     static void connectionLostServer(void* context, char* cause);
     static void onPublishFailureServer(void* context, MQTTAsync_failureData* response);
     static void onPublishFailureServer5(void* context, MQTTAsync_failureData5* response);
+    static void onDisconnectServer(void* context, MQTTAsync_successData* response);
+    static void onDisconnectFailureServer(void* context, MQTTAsync_failureData* response);
+    static void onDisconnectServer5(void* context, MQTTAsync_successData5* response);
+    static void onDisconnectFailureServer5(void* context, MQTTAsync_failureData5* response);
     static int messageArrivedServer(void* context, char* topic, int topicLen, MQTTAsync_message* message);
 
-    template <typename Fn> static void route(void* context, Fn&& fn);
+    /** Runs \a fn on the client of \a context under the map's mutex; a call-back of a retired
+     *  handle goes to the reaper as \a event instead. */
+    template <typename Fn> static void route(void* context, int event, Fn&& fn);
+
+    friend class HandleReaper;
 
     static std::mutex s_mapMutex;
     static std::map<void*, XMqttClient*> s_clients;
@@ -147,6 +182,9 @@ private:
     std::atomic<int> m_state { Disconnected };
     std::atomic<int> m_error { NoError };
     std::atomic<bool> m_connectPending { false }; ///< a connect has not been answered yet
+    std::atomic<bool> m_retrying { false }; ///< the current attempt is an automatic one
+    std::atomic<quint64> m_retryGeneration { 0 }; ///< bumped by every connect or disconnect
+    int m_retryInterval = kMinRetryInterval; ///< seconds before the next automatic attempt
 
     void* m_client = nullptr; ///< the Paho handle (MQTTAsync)
     bool m_clientV5 = false; ///< the handle speaks MQTT 5 (it takes the version 5 call-backs only)

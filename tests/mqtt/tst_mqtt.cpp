@@ -13,7 +13,18 @@
 #include <QRandomGenerator>
 #include <QStandardPaths>
 
+#include <arpa/inet.h>
+#include <netinet/in.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <cstdio>
+#include <functional>
 #include <memory>
+#include <thread>
+#include <vector>
 
 using namespace MQTT;
 
@@ -109,6 +120,128 @@ MqttConnectPrm prm(const QByteArray& host, quint16 port, const char* user = null
 
 const QByteArray kLocalhost("127.0.0.1");
 
+/* A listening socket on a free loopback port; -1 on failure. */
+int listenOnLoopback(quint16* port)
+{
+    const int fd = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    if (fd < 0)
+        return -1;
+    sockaddr_in addr {};
+    addr.sin_family = AF_INET;
+    addr.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t len = sizeof(addr);
+    if (::bind(fd, reinterpret_cast<sockaddr*>(&addr), sizeof(addr)) != 0 || ::listen(fd, 64) != 0
+        || ::getsockname(fd, reinterpret_cast<sockaddr*>(&addr), &len) != 0) {
+        ::close(fd);
+        return -1;
+    }
+    *port = ntohs(addr.sin_port);
+    return fd;
+}
+
+/* A broker that is no broker: Silent accepts every TCP connection and never says a word
+ * (no CONNACK), Drop accepts and closes at once. Runs on a thread of its own, so it goes on
+ * while the test's thread is busy. */
+class FakeBroker {
+public:
+    enum Mode { Silent, Drop };
+    explicit FakeBroker(Mode mode)
+        : m_mode(mode)
+    {
+        m_listener = listenOnLoopback(&m_port);
+        if (m_listener >= 0)
+            m_thread = std::thread([this] { run(); });
+    }
+    ~FakeBroker() { shutdown(); }
+    quint16 port() const { return m_listener >= 0 ? m_port : 0; }
+    int accepted() const { return m_accepted; }
+    /** Closes the listener and every connection: from now on connects are refused. */
+    void shutdown()
+    {
+        m_stop = true;
+        if (m_thread.joinable())
+            m_thread.join();
+        for (int fd : m_open)
+            ::close(fd);
+        m_open.clear();
+        if (m_listener >= 0)
+            ::close(m_listener);
+        m_listener = -1;
+    }
+
+private:
+    void run()
+    {
+        while (!m_stop) {
+            pollfd p { m_listener, POLLIN, 0 };
+            if (::poll(&p, 1, 20) <= 0)
+                continue;
+            const int fd = ::accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC);
+            if (fd < 0)
+                continue;
+            ++m_accepted;
+            if (m_mode == Drop)
+                ::close(fd);
+            else
+                m_open.push_back(fd); // read by nobody, answered never
+        }
+    }
+
+    const Mode m_mode;
+    int m_listener = -1;
+    quint16 m_port = 0;
+    std::thread m_thread;
+    std::atomic<bool> m_stop { false };
+    std::atomic<int> m_accepted { 0 };
+    std::vector<int> m_open;
+};
+
+/* The longest time between two ticks of a 10 ms timer on the calling thread: how long its
+ * event loop was kept from running. */
+class GapMeter {
+public:
+    GapMeter()
+    {
+        m_timer.setTimerType(Qt::PreciseTimer);
+        QObject::connect(&m_timer, &QTimer::timeout, [this] { tick(); });
+    }
+    void start()
+    {
+        m_clock.start();
+        m_last = 0;
+        m_max = 0;
+        m_timer.start(10);
+    }
+    void stop()
+    {
+        tick(); // a call that blocked just before counts too
+        m_timer.stop();
+    }
+    qint64 maxGap() const { return m_max; }
+
+private:
+    void tick()
+    {
+        const qint64 now = m_clock.elapsed();
+        m_max = qMax(m_max, now - m_last);
+        m_last = now;
+    }
+    QTimer m_timer;
+    QElapsedTimer m_clock;
+    qint64 m_last = 0;
+    qint64 m_max = 0;
+};
+
+/* Runs the event loop until \a done or \a ms passed. */
+bool spinUntil(const std::function<bool()>& done, int ms)
+{
+    QElapsedTimer t;
+    t.start();
+    while (!done() && t.elapsed() < ms)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    return done();
+}
+
 } // namespace
 
 class tst_Mqtt : public QObject {
@@ -130,6 +263,9 @@ private Q_SLOTS:
     void disconnect_keeps_the_client();
     void bad_input_is_refused_without_harm();
     void many_clients_created_and_destroyed();
+    void exports_return_at_once_whatever_the_broker_does_data();
+    void exports_return_at_once_whatever_the_broker_does();
+    void process_ends_cleanly_while_handles_are_reaped();
 
 private:
     std::unique_ptr<MosquittoBroker> m_broker;
@@ -378,5 +514,141 @@ void tst_Mqtt::many_clients_created_and_destroyed()
     QTest::qWait(200); // events posted before the removals are still delivered harmlessly
 }
 
-QTEST_GUILESS_MAIN(tst_Mqtt)
+void tst_Mqtt::exports_return_at_once_whatever_the_broker_does_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<bool>("longConnect");
+    QTest::addColumn<int>("version");
+    QTest::newRow("silent broker, long, 3.1.1") << int(FakeBroker::Silent) << true << 4;
+    QTest::newRow("silent broker, short, 5") << int(FakeBroker::Silent) << false << 5;
+    QTest::newRow("silent broker, long, default version") << int(FakeBroker::Silent) << true << 0;
+    QTest::newRow("connection dropped, long, 3.1.1") << int(FakeBroker::Drop) << true << 4;
+    QTest::newRow("connection dropped, short, 3.1") << int(FakeBroker::Drop) << false << 3;
+}
+
+void tst_Mqtt::exports_return_at_once_whatever_the_broker_does()
+{
+    QFETCH(int, mode);
+    QFETCH(bool, longConnect);
+    QFETCH(int, version);
+    FakeBroker fake { FakeBroker::Mode(mode) };
+    QVERIFY2(fake.port() != 0, "no loopback listener");
+    const MqttConnectPrm to
+        = prm(kLocalhost, fake.port(), nullptr, nullptr, nullptr, longConnect, 30, short(version));
+    QMqtt_App* app = QMqtt_App::instance();
+    const unsigned h = Mqtt_CreateClient();
+
+    // The test's thread stands for the GUI thread and its 10 ms cycle.
+    GapMeter gaps;
+    qint64 slowest = 0;
+    QByteArray slowestCall;
+    auto timed = [&](const char* what, const std::function<void()>& call) {
+        QElapsedTimer t;
+        t.start();
+        call();
+        if (slowestCall.isEmpty() || t.elapsed() > slowest) {
+            slowest = t.elapsed();
+            slowestCall = what;
+        }
+        QTest::qWait(40); // the listener takes the connection meanwhile
+    };
+    gaps.start();
+    timed("Mqtt_Connect", [&] { Mqtt_Connect(h, to); });
+    timed("Mqtt_ReConnect", [&] { Mqtt_ReConnect(h); });
+    timed("Mqtt_ReConnect", [&] { Mqtt_ReConnect(h); });
+    timed("Mqtt_Disconnect", [&] { Mqtt_Disconnect(h, false); });
+    timed("Mqtt_Connect", [&] { Mqtt_Connect(h, to); });
+    timed("Mqtt_Disconnect(force)", [&] { Mqtt_Disconnect(h, true); });
+    timed("Mqtt_ReConnect", [&] { Mqtt_ReConnect(h); });
+    const unsigned other = Mqtt_CreateClient();
+    timed("Mqtt_Connect", [&] { Mqtt_Connect(other, to); });
+    timed("client destroyed", [&] { QVERIFY(app->removeClient(other)); });
+    timed("Mqtt_Connect", [&] { Mqtt_Connect(other, to); });
+    timed("every client destroyed", [&] { QMqtt_App::destroyInstance(); });
+    gaps.stop();
+    qInfo("longest gap between ticks %lld ms; slowest call %s, %lld ms", gaps.maxGap(),
+        slowestCall.constData(), slowest);
+    QVERIFY2(fake.accepted() > 0, "the connects never reached the listener");
+    QVERIFY2(gaps.maxGap() <= 100,
+        qPrintable(QStringLiteral("the event loop stood still for %1 ms").arg(gaps.maxGap())));
+    QVERIFY2(slowest <= 100,
+        qPrintable(QStringLiteral("%1 took %2 ms").arg(QString::fromLatin1(slowestCall)).arg(slowest)));
+
+    // The client still works, while handles it left behind may still wait for the listener.
+    Subscriber sub(m_broker.get(), QStringLiteral("after/stall"), 1, 1);
+    QVERIFY(sub.waitSubscribed());
+    const unsigned live = Mqtt_CreateClient();
+    Mqtt_Connect(
+        live, prm(kLocalhost, m_broker->port(), nullptr, nullptr, nullptr, longConnect, 30, short(version)));
+    QTRY_VERIFY_WITH_TIMEOUT(Mqtt_CheckState(live) == 2, 10000);
+    Mqtt_Publish(live, "after/stall", "alive", 1, false);
+    const QByteArray got = sub.received();
+    QVERIFY2(got.contains("after/stall alive"), got.constData());
+
+    // The listener goes away: the connects still waiting for it fail now. Those handles are
+    // retired, so their failures never reach a client, and the reaper destroys them all.
+    m_recorder.clear();
+    fake.shutdown();
+    QTRY_COMPARE_WITH_TIMEOUT(XMqttClient::retiredHandles(), 0, 15000);
+    QTest::qWait(100);
+    QCOMPARE(Mqtt_CheckState(live), 2);
+    QVERIFY2(eventsOf(live).isEmpty(), qPrintable(QString::number(eventsOf(live).size())));
+}
+
+void tst_Mqtt::process_ends_cleanly_while_handles_are_reaped()
+{
+    // The helper (this program, see main) leaves a client connecting to a listener that never
+    // answers, a handle retired while connecting, and one retired with a message in flight.
+    QProcess child;
+    child.setProcessChannelMode(QProcess::MergedChannels);
+    child.start(QCoreApplication::applicationFilePath(),
+        { QStringLiteral("--exit-while-reaping"), QString::number(m_broker->port()) });
+    QVERIFY(child.waitForStarted());
+    QVERIFY2(child.waitForFinished(120000), "the process did not end");
+    const QByteArray out = child.readAll();
+    QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+    QVERIFY2(child.exitCode() == 0, out.constData());
+    QVERIFY2(out.contains("retired at exit:"), out.constData());
+    QVERIFY2(!out.contains("retired at exit: 0"), out.constData()); // there was something to reap
+    QVERIFY2(!out.contains("Sanitizer"), out.constData());
+}
+
+/* The helper process of process_ends_cleanly_while_handles_are_reaped. */
+int exitWhileReaping(int argc, char** argv)
+{
+    QCoreApplication app(argc, argv);
+    const quint16 brokerPort = quint16(QByteArray(argv[2]).toUInt());
+    // Never accepted: the kernel completes the TCP handshake and nothing ever answers.
+    quint16 silentPort = 0;
+    if (listenOnLoopback(&silentPort) < 0)
+        return 2;
+
+    const unsigned waiting = Mqtt_CreateClient();
+    Mqtt_Connect(waiting, prm(kLocalhost, silentPort));
+    Mqtt_ReConnect(waiting); // the first handle is retired while it connects
+
+    const unsigned live = Mqtt_CreateClient();
+    Mqtt_Connect(live, prm(kLocalhost, brokerPort));
+    if (!spinUntil([live] { return Mqtt_CheckState(live) == 2; }, 10000))
+        return 3;
+    Mqtt_Publish(live, "exit/test", "bye", 2, false);
+    Mqtt_Disconnect(live, false); // retired with the message perhaps in flight
+    Mqtt_Connect(live, prm(kLocalhost, brokerPort));
+
+    std::printf("retired at exit: %d\n", XMqttClient::retiredHandles());
+    std::fflush(stdout);
+    return 0; // the clients go with the application object, the rest at exit
+}
+
+int main(int argc, char** argv)
+{
+    if (argc >= 3 && qstrcmp(argv[1], "--exit-while-reaping") == 0)
+        return exitWhileReaping(argc, argv);
+    QCoreApplication app(argc, argv);
+    app.setAttribute(Qt::AA_Use96Dpi, true);
+    tst_Mqtt tc;
+    QTEST_SET_MAIN_SOURCE_PATH
+    return QTest::qExec(&tc, argc, argv);
+}
+
 #include "tst_mqtt.moc"
