@@ -1,7 +1,9 @@
-// PDF viewer and writer, export to file: not built yet. Every call is accepted and changes nothing: the
-// creators create nothing and return -1 (as for an unknown window); the other
-// calls return what they return for an unknown id.
+// PDF viewer and writer: not built yet. Every call is accepted and changes nothing: the creators
+// create nothing and return -1 (as for an unknown window); the other calls return what they
+// return for an unknown id. Export to file runs the logic layer's work on a worker thread.
 #include "views/viewmanage.h"
+
+#include <QThreadPool>
 
 int ViewManage::View_ClosePdfWriter(unsigned int)
 {
@@ -18,9 +20,13 @@ int ViewManage::View_CreatePdfWriter(unsigned int, const char*)
     return -1;
 }
 
-int ViewManage::View_Export2File(void*, std::function<void(void*)>)
+int ViewManage::View_Export2File(void* context, std::function<void(void*)> work)
 {
-    return -1;
+    // the logic layer's own file export: run on the global pool, never on the GUI thread
+    if (!work)
+        return -1;
+    QThreadPool::globalInstance()->start([context, work = std::move(work)]() { work(context); });
+    return 0;
 }
 
 int ViewManage::View_PdfSetDisplayMode(unsigned int, int)

@@ -14,7 +14,13 @@
 #include "xcomponents/qquick/xbasecontrol.h"
 
 #include <QPointer>
+#include <QThread>
+
 #include <QQuickItem>
+#include <atomic>
+#include <functional>
+
+Q_DECLARE_METATYPE(std::function<int()>)
 
 class tst_Registry : public QObject {
     Q_OBJECT
@@ -29,6 +35,9 @@ private Q_SLOTS:
     void show_from_cache_reports_an_unknown_id();
     void unknown_ids_give_their_fixed_results_data();
     void unknown_ids_give_their_fixed_results();
+    void calls_of_families_not_built_yet_return_the_documented_result_data();
+    void calls_of_families_not_built_yet_return_the_documented_result();
+    void export_to_file_runs_on_a_worker();
     void disable_flags_data();
     void disable_flags();
     void opacity_rectangle_and_move();
@@ -189,6 +198,69 @@ void tst_Registry::unknown_ids_give_their_fixed_results_data()
     QTest::newRow("SetWidgetParent to no parent") << 11 << -1 << true;
     QTest::newRow("SetWidgetParent unknown widget") << 12 << 0 << false;
     QTest::newRow("ShowWidget not from cache") << 13 << 0 << false;
+}
+
+void tst_Registry::calls_of_families_not_built_yet_return_the_documented_result_data()
+{
+    // what include/qgui/view.h documents for an unknown id: every id is unknown to a family whose
+    // widgets do not exist yet, and its creators make nothing
+    QTest::addColumn<std::function<int()>>("call");
+    QTest::addColumn<int>("expected");
+    const unsigned id = 77;
+    const Brush brush { BRUSH_SOLID, 0xFF000000u, 0, 0 };
+    QTest::newRow("FillWidget: ignored")
+        << std::function<int()>([=] { return View_FillWidget(id, 0, 1, 2, brush); }) << 0;
+    QTest::newRow("RotateWidget: ignored")
+        << std::function<int()>([=] { return View_RotateWidget(id, 90, 4); }) << 0;
+    QTest::newRow("ZoomWidget: ignored")
+        << std::function<int()>([=] { return View_ZoomWidget(id, 9, 9, 0); }) << 0;
+    QTest::newRow("SetTextCursorFocus: always 0")
+        << std::function<int()>([=] { return View_SetTextCursorFocus(id); }) << 0;
+    QTest::newRow("SetTextSelectCursor: always 0")
+        << std::function<int()>([=] { return View_SetTextSelectCursor(id, 0, 1); }) << 0;
+    QTest::newRow("ChangeListCtrlSel: always 0")
+        << std::function<int()>([=] { return View_ChangeListCtrlSel(id, 1, 1); }) << 0;
+    QTest::newRow("PopupDateTimeDialog: always 0")
+        << std::function<int()>([=] { return View_PopupDateTimeDialog(id, "x"); }) << 0;
+    QTest::newRow("CurveXyShowCursor: always 0")
+        << std::function<int()>([] { return View_CurveXyShowCursor(); }) << 0;
+    QTest::newRow("ChangePen") << std::function<int()>([=] { return View_ChangePen(id, nullptr); }) << -1;
+    QTest::newRow("MeterUpdateVal") << std::function<int()>([=] { return View_MeterUpdateVal(id, 5); }) << -1;
+    QTest::newRow("ChangeInputParam")
+        << std::function<int()>([=] { return View_ChangeInputParam(id, nullptr); }) << -1;
+    QTest::newRow("ChangeListCtrlContent")
+        << std::function<int()>([=] { return View_ChangeListCtrlContent(id, {}); }) << -1;
+    QTest::newRow("CreateMeter") << std::function<int()>([this] {
+        View_Meter rec {};
+        rec.id = 77;
+        return View_CreateMeter(&rec, A);
+    }) << -1;
+    QTest::newRow("Export2File without work")
+        << std::function<int()>([] { return View_Export2File(nullptr, {}); }) << -1;
+}
+
+void tst_Registry::calls_of_families_not_built_yet_return_the_documented_result()
+{
+    QFETCH(std::function<int()>, call);
+    QFETCH(int, expected);
+    QCOMPARE(call(), expected);
+    QVERIFY(!ViewManage::getInstance()->getItemById(77));
+    QCOMPARE(Utils::assertCount(), 0);
+}
+
+void tst_Registry::export_to_file_runs_on_a_worker()
+{
+    std::atomic<bool> ran { false };
+    std::atomic<bool> onGuiThread { true };
+    QThread* gui = QThread::currentThread();
+    QCOMPARE(View_Export2File(&ran,
+                 [&](void* context) {
+                     onGuiThread = QThread::currentThread() == gui;
+                     static_cast<std::atomic<bool>*>(context)->store(true);
+                 }),
+        0);
+    QTRY_VERIFY(ran);
+    QVERIFY(!onGuiThread);
 }
 
 void tst_Registry::unknown_ids_give_their_fixed_results()

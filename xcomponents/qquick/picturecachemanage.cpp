@@ -85,8 +85,11 @@ void PictureCacheManage::attach(QQmlEngine* engine)
         engine->addImageProvider(kProvider, new PictureProvider);
 }
 
-QImage PictureCacheManage::image(const QString& key, QSize* size, const QSize& requested)
+QImage PictureCacheManage::image(const QString& key, QSize* size, const QSize& asked)
 {
+    // no picture is decoded larger than this, whatever is asked: the item stretches it
+    constexpr int kMaxSide = 4096;
+    const QSize requested = asked.isValid() ? asked.boundedTo(QSize(kMaxSide, kMaxSide)) : asked;
     QMutexLocker lock(&m_mutex);
     const QString file = m_files.value(key.toInt());
     QImage out;

@@ -34,7 +34,7 @@ void XButton::setImage(const QUrl& url)
         m_image = new XQuickImage(this);
         m_image->ensureContext(this);
         m_image->setSize(size());
-        m_image->setSourceSize(size().toSize());
+        m_image->setVisibleSourceSize(size());
         setBackground(m_image);
     }
     if (QQmlEngine* engine = qmlEngine(m_image))
@@ -233,7 +233,7 @@ void XButton::geometryChanged(const QRectF& newGeometry, const QRectF& oldGeomet
         m_text->setSize(newGeometry.size());
     if (m_image) {
         m_image->setSize(newGeometry.size());
-        m_image->setSourceSize(newGeometry.size().toSize());
+        m_image->setVisibleSourceSize(newGeometry.size());
     }
     if (m_dragArea)
         m_dragArea->setSize(newGeometry.size());

@@ -65,13 +65,15 @@ void XDisEnableIcon::paint(QPainter* painter)
 {
     if (m_icon.isNull() || m_iconSize.isEmpty())
         return;
-    QPixmap pixmap = m_icon.pixmap(m_iconSize);
+    // rendered at no more than the texture's resolution (what can be seen), drawn at the icon size
+    const QSize pixels = m_iconSize.boundedTo(textureSize().expandedTo(QSize(1, 1)));
+    QPixmap pixmap = m_icon.pixmap(pixels);
     {
         QPainter tint(&pixmap);
         tint.setCompositionMode(QPainter::CompositionMode_SourceIn);
         tint.fillRect(pixmap.rect(), isEnabled() ? m_color : m_disabledColor);
     }
-    painter->drawPixmap(QPointF(2, 2), pixmap);
+    painter->drawPixmap(QRectF(QPointF(2, 2), QSizeF(m_iconSize)), pixmap, QRectF(pixmap.rect()));
 }
 
 void XDisEnableIcon::itemChange(ItemChange change, const ItemChangeData& value)

@@ -180,7 +180,7 @@ bool XQRCode::setContent(const char* text)
     }
     m_svg = svg;
     m_content = QString::fromUtf8(text);
-    setSourceSize(QSize(int(width()), int(height())));
+    setVisibleSourceSize(size());
     if (QQmlEngine* engine = qmlEngine(this))
         initImageProvider(engine);
     const int number = g_pictureCounter++;

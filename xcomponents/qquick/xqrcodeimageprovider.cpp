@@ -8,6 +8,8 @@
 namespace {
 constexpr int kKept = 32; // documents kept for pictures not yet loaded
 constexpr int kDefaultSide = 256;
+// no symbol is rendered larger, whatever is asked: the item stretches it
+constexpr int kMaxSide = 4096;
 }
 
 XQRCodeImageProvider::XQRCodeImageProvider()
@@ -49,7 +51,7 @@ QByteArray XQRCodeImageProvider::documentFor(const QString& id, const QSize& req
         s.setWidth(s.height() > 0 ? s.height() : kDefaultSide);
     if (s.height() <= 0)
         s.setHeight(s.width());
-    *target = s;
+    *target = s.boundedTo(QSize(kMaxSide, kMaxSide));
     return m_documents.value(ok ? n : m_latest, m_documents.value(m_latest));
 }
 

@@ -1,9 +1,11 @@
 #include "xcomponents/qquick/xquickimage.h"
 
+#include "xcomponents/qquick/xbasepainteditem.h"
 #include "xcomponents/qquick/xqmlcomponentmanage.h"
 
 #include <QQmlContext>
 #include <QQmlEngine>
+#include <QQuickWindow>
 
 XQuickImage::XQuickImage(QQuickItem* parent)
     : QQuickImage(parent)
@@ -12,6 +14,16 @@ XQuickImage::XQuickImage(QQuickItem* parent)
 }
 
 XQuickImage::~XQuickImage() = default;
+
+void XQuickImage::setVisibleSourceSize(const QSizeF& size)
+{
+    if (size.isEmpty()) {
+        setSourceSize(QSize()); // the picture's own size until the item has one
+        return;
+    }
+    const QQuickWindow* w = window();
+    setSourceSize(XBasePaintedItem::cappedTextureSize(size, 1.0, w ? w->size() : QSize()));
+}
 
 bool XQuickImage::ensureContext(const QObject* from)
 {

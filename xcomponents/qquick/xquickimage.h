@@ -20,6 +20,9 @@ public:
     /** Gives the item a QML context when it has none: \a from's, else the library engine's
      *  root context. False when no engine is known. */
     bool ensureContext(const QObject* from);
+    /** Decodes the picture at \a size, but never larger than what can be seen (the window, see
+     *  XBasePaintedItem::cappedTextureSize): a huge item is stretched from a bounded picture. */
+    void setVisibleSourceSize(const QSizeF& size);
 };
 
 #endif // XQUICKIMAGE_H
