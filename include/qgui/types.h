@@ -121,8 +121,9 @@ struct View_TextLayout {
     short vMargin; /**< distance from a top/bottom aligned edge, pixels */
 };
 
-/** Which part of a widget View_ShowWidget / View_HideWidget acts on. */
-enum ItemSlashType {
+/** Which part of a widget View_ShowWidget / View_HideWidget acts on. Any int is a valid value;
+ *  values other than 1 and 2 act on the whole item. */
+enum ItemSlashType : int {
     ITEM_SLASH_WHOLE = 0, /**< the whole item */
     ITEM_SLASH_IMAGE = 1, /**< the item's image only */
     ITEM_SLASH_SLASH = 2 /**< the item's slash overlay only */
