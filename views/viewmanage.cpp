@@ -1,6 +1,5 @@
 #include "views/viewmanage.h"
 
-#include "platform/gid.h"
 #include "platform/guiqtadaptcore.h"
 #include "views/curvesamplecharttimemodecontroller.h"
 #include "views/lifecyclemanager.h"
