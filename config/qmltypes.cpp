@@ -16,6 +16,7 @@
 #include "xcomponents/qquick/xlumodialog.h"
 #include "xcomponents/qquick/xqrcode.h"
 #include "xcomponents/qquick/xquickimage.h"
+#include "xcomponents/qquick/xtumblertimemodel.h"
 #include "xcomponents/qquick/xwindow.h"
 
 #include <QtQml>
@@ -50,4 +51,7 @@ void registerQmlTypes()
     // Shapes and images
     qmlRegisterType<XQuickImage>(uri, 1, 0, "XImage");
     qmlRegisterType<XQRCode>(uri, 1, 0, "XQRCode");
+
+    // Date and time
+    qmlRegisterType<XTumblerTimeModel>(uri, 1, 0, "XTumblerTimeModel");
 }
