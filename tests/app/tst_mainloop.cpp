@@ -99,7 +99,7 @@ void tst_MainLoop::main_loop_runs_the_logic_layer()
     QCOMPARE(out.value("inits"), QString("1"));
     if (loopRan) {
         QVERIFY(out.value("cycles100").toInt() >= 3);
-        QVERIFY(out.value("cycles10").toInt() > out.value("cycles100").toInt());
+        QVERIFY(out.value("cycles10").toInt() >= 30); // the child quits only after both
     } else {
         QCOMPARE(out.value("cycles10"), QString("0"));
         QCOMPARE(out.value("cycles100"), QString("0"));
