@@ -28,6 +28,14 @@
 
 namespace {
 
+// The longest stop of the 10 ms cycle accepted; the sanitizers slow every instruction two to three
+// times, and a text laid out whole took seconds.
+#if defined(__SANITIZE_ADDRESS__)
+constexpr qint64 kMaxGap = 200;
+#else
+constexpr qint64 kMaxGap = 100;
+#endif
+
 enum Kind { Text, Button, QrCode, Placeholder };
 
 /** The largest gap between the ticks of a 10 ms timer (the logic layer's cycle) while \a work
@@ -310,6 +318,8 @@ void tst_EveryKind::megabyte_texts_never_stop_the_cycle()
     const Rect box = what == "huge text box" ? Rect { 0, 0, 100000, 100000 } : Rect { 20, 20, 400, 60 };
     // the first CJK text of the process loads its font once, whatever its length: not what is measured
     QCOMPARE(create(Text, 31, Rect { 0, 300, 200, 40 }, "中文 warm", &m_font), 0);
+    // so does the first popup window (its components are compiled once)
+    QCOMPARE(m_panel.popup(PanelFixture::wid(1, 6), Rect { 500, 300, 200, 100 }, 10, false, 7, "warm"), 0);
     QTest::qWait(100);
 
     const qint64 gap = longestCycleGap([&] {
@@ -327,7 +337,7 @@ void tst_EveryKind::megabyte_texts_never_stop_the_cycle()
             QCOMPARE(View_ChangeWindowTitle(PanelFixture::wid(1, 5), big.constData()), 0);
         }
     });
-    QVERIFY2(gap < 100, qPrintable(QString("cycle stopped for %1 ms").arg(gap)));
+    QVERIFY2(gap < kMaxGap, qPrintable(QString("cycle stopped for %1 ms").arg(gap)));
 
     if (what == "window title")
         return;
