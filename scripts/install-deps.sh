@@ -19,6 +19,8 @@ PACKAGES=(
   qttools5-dev-tools
   libqcustomplot-dev libqrcodegencpp-dev libpaho-mqtt-dev libssl-dev
   libspdlog-dev libfmt-dev
+  # a real Pinyin engine for the demo's logic layer (the library does not link it)
+  libgooglepinyin0-dev
   # headless display with real OpenGL (Mesa), and CJK-capable fonts
   xvfb xauth libgl1-mesa-dri libegl-mesa0 mesa-utils
   fonts-noto-cjk fonts-dejavu-core
