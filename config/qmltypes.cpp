@@ -9,13 +9,17 @@
 #include "xcomponents/qquick/monotext.h"
 #include "xcomponents/qquick/xbasecontrol.h"
 #include "xcomponents/qquick/xbasetext.h"
+#include "xcomponents/qquick/xbasetextinputcontrol.h"
 #include "xcomponents/qquick/xbutton.h"
 #include "xcomponents/qquick/xcausetext.h"
 #include "xcomponents/qquick/xdisenableicon.h"
 #include "xcomponents/qquick/xinvalidfeature.h"
+#include "xcomponents/qquick/xlineinputtext.h"
 #include "xcomponents/qquick/xlumodialog.h"
 #include "xcomponents/qquick/xqrcode.h"
 #include "xcomponents/qquick/xquickimage.h"
+#include "xcomponents/qquick/xquicktextedit.h"
+#include "xcomponents/qquick/xtextedit.h"
 #include "xcomponents/qquick/xtumblertimemodel.h"
 #include "xcomponents/qquick/xwindow.h"
 
@@ -47,6 +51,13 @@ void registerQmlTypes()
     qmlRegisterType<XCauseText>(uri, 1, 0, "XskCauseText");
     qmlRegisterType<MonoText>(uri, 1, 0, "MonoText");
     qmlRegisterType<XDisEnableIcon>(uri, 1, 0, "XDisEnableIcon");
+
+    // Text and numeric input
+    qmlRegisterUncreatableType<XBaseTextInputControl>(
+        uri, 1, 0, "XBaseTextInputControl", QStringLiteral("the base of the entry fields"));
+    qmlRegisterType<XLineInputText>(uri, 1, 0, "XLineInputText");
+    qmlRegisterType<XTextEdit>(uri, 1, 0, "XTextEdit");
+    qmlRegisterType<XQuickTextEdit>(uri, 1, 0, "XQuickTextEdit");
 
     // Shapes and images
     qmlRegisterType<XQuickImage>(uri, 1, 0, "XImage");

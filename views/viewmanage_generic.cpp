@@ -33,7 +33,7 @@ bool hasSlashAnimation(QQuickItem* item)
 bool takesImageHide(QQuickItem* item)
 {
     static const char* const kinds[]
-        = { "XButton", "XTextEdit", "XQuickTextEdit", "XLineEdit", "XDateTimeEdit", "XMultiLineText" };
+        = { "XButton", "XTextEdit", "XQuickTextEdit", "XLineInputText", "XDateTimeEdit", "XMultiLineText" };
     for (const char* k : kinds) {
         if (item->inherits(k))
             return true;
@@ -45,7 +45,7 @@ bool takesImageHide(QQuickItem* item)
 bool takesSlashHide(QQuickItem* item)
 {
     static const char* const kinds[] = { "XButton", "XBaseText", "XMultiLineText", "XTextEdit",
-        "XQuickTextEdit", "XLineEdit", "XDateTimeEdit" };
+        "XQuickTextEdit", "XLineInputText", "XDateTimeEdit" };
     for (const char* k : kinds) {
         if (item->inherits(k))
             return true;
@@ -218,14 +218,14 @@ int ViewManage::View_ClrInputMode(unsigned int id)
 int ViewManage::View_SetInputFlag(unsigned int id)
 {
     if (QQuickItem* item = m_lifeCycle->findItemMaybeVisible(id))
-        Props::invokeIf(item, "setInputFlag", "setInputFlag(bool)", Q_ARG(bool, true));
+        Props::invokeIf(item, "setInputFlag", "setInputFlag()");
     return 0;
 }
 
 int ViewManage::View_ClrInputFlag(unsigned int id)
 {
     if (QQuickItem* item = m_lifeCycle->findItemMaybeVisible(id))
-        Props::invokeIf(item, "setInputFlag", "setInputFlag(bool)", Q_ARG(bool, false));
+        Props::invokeIf(item, "clearInputFlag", "clearInputFlag()");
     return 0;
 }
 
