@@ -25,7 +25,7 @@ bool PressWatcher::eventFilter(QObject* watched, QEvent* event)
         // a touch that Qt also turns into a mouse press is reported once, as a touch
         if (me->source() == Qt::MouseEventSynthesizedBySystem
             || me->source() == Qt::MouseEventSynthesizedByQt) {
-            if (m_block)
+            if (m_block && !m_passing)
                 return true;
             break;
         }
@@ -33,7 +33,8 @@ bool PressWatcher::eventFilter(QObject* watched, QEvent* event)
             View_EvtPoint p { qRound(me->windowPos().x()), qRound(me->windowPos().y()) };
             LogicLayerCaller::call(0, EVT_PRESS, &p);
         }
-        if (m_block) {
+        m_passing = m_block && m_passThrough && m_passThrough(me->windowPos());
+        if (m_block && !m_passing) {
             m_swallowing = true;
             return true;
         }
@@ -41,6 +42,11 @@ bool PressWatcher::eventFilter(QObject* watched, QEvent* event)
     }
     case QEvent::MouseMove:
     case QEvent::MouseButtonRelease:
+        if (m_passing) {
+            if (event->type() == QEvent::MouseButtonRelease)
+                m_passing = false;
+            break;
+        }
         if (m_swallowing || m_block) {
             if (event->type() == QEvent::MouseButtonRelease)
                 m_swallowing = false;
@@ -54,8 +60,9 @@ bool PressWatcher::eventFilter(QObject* watched, QEvent* event)
             const QPointF sp = te->touchPoints().first().pos();
             View_EvtPoint p { qRound(sp.x()), qRound(sp.y()) };
             LogicLayerCaller::call(0, EVT_PRESS, &p);
+            m_passing = m_block && m_passThrough && m_passThrough(sp);
         }
-        if (m_block) {
+        if (m_block && !m_passing) {
             m_swallowing = true;
             return true;
         }
@@ -64,6 +71,11 @@ bool PressWatcher::eventFilter(QObject* watched, QEvent* event)
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd:
     case QEvent::TouchCancel:
+        if (m_passing) {
+            if (event->type() != QEvent::TouchUpdate)
+                m_passing = false;
+            break;
+        }
         if (m_swallowing || m_block) {
             if (event->type() != QEvent::TouchUpdate)
                 m_swallowing = false;

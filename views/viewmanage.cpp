@@ -3,7 +3,10 @@
 #include "platform/guiqtadaptcore.h"
 #include "views/curvesamplecharttimemodecontroller.h"
 #include "views/lifecyclemanager.h"
+#include "views/presswatcher.h"
 #include "views/qmlwindowmanage.h"
+#include "views/virtualkeyboardmanager.h"
+#include "views/vkbstate.h"
 #include "views/widgetpropertymanage.h"
 #include "xcomponents/qquick/xinvalidfeature.h"
 #include "xcomponents/qquick/xqmlcomponentmanage.h"
@@ -32,8 +35,14 @@ ViewManage::ViewManage()
     , m_propertyManage(std::make_unique<WidgetPropertyManage>())
     , m_windowManage(std::make_unique<QmlWindowManage>(m_lifeCycle.get()))
     , m_timeMode(std::make_unique<CurveSampleChartTimeModeController>())
+    , m_vkb(std::make_unique<VkbState>())
 {
     XQmlComponentManage::getInstance()->setWindowManage(m_windowManage.get());
+    // the keyboard's layer takes the panel's dimming colour and stays usable on a dimmed panel
+    VirtualKeyboardManager* keyboard = VirtualKeyboardManager::instance();
+    connect(m_windowManage.get(), &QmlWindowManage::lightChanged, keyboard, &VirtualKeyboardManager::setLight);
+    m_windowManage->pressWatcher()->setPassThrough(
+        [keyboard](const QPointF& pos) { return keyboard->containsScenePoint(pos); });
 }
 
 ViewManage::~ViewManage()
@@ -42,6 +51,7 @@ ViewManage::~ViewManage()
     const QList<QQuickItem*> items = m_lifeCycle->allItems();
     m_idHash.clear();
     qDeleteAll(items);
+    m_vkb.reset();
     m_windowManage.reset();
     XQmlComponentManage::getInstance()->setWindowManage(nullptr);
     m_lifeCycle.reset();

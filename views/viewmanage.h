@@ -22,6 +22,7 @@ class WidgetPropertyManage;
 class QmlWindowManage;
 class XQmlComponentManage;
 class CurveSampleChartTimeModeController;
+class VkbState;
 
 /**
  * The single object behind the exported View_* functions. Each export logs one
@@ -57,6 +58,8 @@ public:
         return m_timeMode.get();
     }
     void setCurveSampleChartTimeModeController(std::unique_ptr<CurveSampleChartTimeModeController> c);
+    /** The keyboard family's requester (views/vkbstate.h). */
+    VkbState* vkbState() const { return m_vkb.get(); }
 
     /** Registers a created item: clears its object parent and records it under \a id. */
     void appendItem(unsigned id, QQuickItem* item);
@@ -355,6 +358,7 @@ private:
     std::unique_ptr<QmlWindowManage> m_windowManage;
     std::unique_ptr<CurveSampleChartTimeModeController> m_timeMode;
     QHash<unsigned, QQuickItem*> m_idHash;
+    std::unique_ptr<VkbState> m_vkb;
 };
 
 #endif // VIEWMANAGE_H

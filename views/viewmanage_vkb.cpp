@@ -1,25 +1,59 @@
-// The on-screen keyboard and the Pinyin candidate bar: not built yet. Every call is accepted and changes
-// nothing: the creators create nothing and return -1 (as for an unknown window); the other calls return what
-// they return for an unknown id.
+// The on-screen keyboard (opened for a widget, confirmed or closed) and the
+// keyboard window's entry line. The Pinyin candidate bar is built separately
+// and still accepts its calls without showing anything.
 #include "views/viewmanage.h"
 
-int ViewManage::View_ChangeKBText(unsigned int, const char*, const Font*)
+#include "platform/guiqtadaptcore.h"
+#include "views/panelhost.h"
+#include "views/qmlwindowmanage.h"
+#include "views/virtualkeyboardmanager.h"
+#include "views/vkbstate.h"
+#include "views/widgetpropertymanage.h"
+#include "xcomponents/qquick/keyboardwindowtitile.h"
+#include "xcomponents/qquick/xkeyboardedit.h"
+
+#include <QQuickItem>
+
+using GuiQtAdapt::Core;
+
+namespace {
+
+/** The entry line of the keyboard window \a windowId, or null. */
+XKeyBoardEdit* keyboardEdit(QmlWindowManage* windows, unsigned windowId)
 {
+    QQuickItem* window = windows->getWindowObj(windowId);
+    if (!window)
+        return nullptr;
+    if (auto* title = window->findChild<KeyBoardWindowTitile*>())
+        return title->lineEdit();
+    return window->findChild<XKeyBoardEdit*>();
+}
+
+} // namespace
+
+int ViewManage::View_PopupVirtualKeyboard(unsigned int id, int type, const char* text)
+{
+    VirtualKeyboardManager* keyboard = VirtualKeyboardManager::instance();
+    PanelHost* host = PanelHost::getInstance();
+    if (QQuickItem* root = host ? host->getGuiRect() : nullptr)
+        keyboard->init(root);
+    m_vkb->setRequester(id);
+    m_vkb->connectOnce(keyboard);
+    keyboard->popupVirtualKeyBord(VkbLayoutType(type), nullptr, Core::fromUtf8(text), 0);
     return 0;
 }
 
 int ViewManage::View_CloseVirtualKeyboard()
 {
+    VirtualKeyboardManager::instance()->hideVkb();
     return 0;
 }
 
-int ViewManage::View_HideKeyBoardWidget()
+int ViewManage::View_ChangeKBText(unsigned int windowId, const char* text, const Font*)
 {
-    return 0;
-}
-
-int ViewManage::View_PopupVirtualKeyboard(unsigned int, int, const char*)
-{
+    // the keyboard window keeps its own font: the record's is not applied
+    if (XKeyBoardEdit* edit = keyboardEdit(m_windowManage.get(), windowId))
+        edit->setText(Core::fromUtf8(text));
     return 0;
 }
 
@@ -28,12 +62,23 @@ int ViewManage::View_SetKBoardTextCursorFocus()
     return 0;
 }
 
-int ViewManage::View_SetKBoardTextCursorPosition(unsigned int, unsigned int)
+int ViewManage::View_SetKBoardTextCursorPosition(unsigned int windowId, unsigned int position)
 {
-    return -1;
+    XKeyBoardEdit* edit = keyboardEdit(m_windowManage.get(), windowId);
+    if (!edit)
+        return -1;
+    edit->setCursorPosition(int(qMin<unsigned>(position, unsigned(INT_MAX))));
+    return 0;
 }
 
-int ViewManage::View_SetKBoardTextSelectCursor(unsigned int, unsigned int, unsigned int)
+int ViewManage::View_SetKBoardTextSelectCursor(unsigned int windowId, unsigned int start, unsigned int end)
+{
+    if (XKeyBoardEdit* edit = keyboardEdit(m_windowManage.get(), windowId))
+        edit->select(int(qMin<unsigned>(start, unsigned(INT_MAX))), int(qMin<unsigned>(end, unsigned(INT_MAX))));
+    return 0;
+}
+
+int ViewManage::View_HideKeyBoardWidget()
 {
     return 0;
 }
