@@ -24,6 +24,26 @@ int View_PopupVirtualKeyboard(unsigned int id, int type, const char* text)
     return QGUI_FORWARD(info, "id", View_PopupVirtualKeyboard, id, type, text);
 }
 
+int View_SetVirtualKeyboardValidator(int kind)
+{
+    return QGUI_FORWARD(info, nullptr, View_SetVirtualKeyboardValidator, kind);
+}
+
+int View_SetVirtualKeyboardRangeI(long long bottom, long long top)
+{
+    return QGUI_FORWARD(info, nullptr, View_SetVirtualKeyboardRangeI, bottom, top);
+}
+
+int View_SetVirtualKeyboardRangeU(unsigned long long bottom, unsigned long long top)
+{
+    return QGUI_FORWARD(info, nullptr, View_SetVirtualKeyboardRangeU, bottom, top);
+}
+
+int View_SetVirtualKeyboardRangeD(double bottom, double top)
+{
+    return QGUI_FORWARD(info, nullptr, View_SetVirtualKeyboardRangeD, bottom, top);
+}
+
 int View_SetKBoardTextCursorFocus()
 {
     return QGUI_FORWARD(info, nullptr, View_SetKBoardTextCursorFocus);

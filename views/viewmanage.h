@@ -217,6 +217,10 @@ public:
     int View_CloseVirtualKeyboard();
     int View_HideKeyBoardWidget();
     int View_PopupVirtualKeyboard(unsigned int id, int type, const char* text);
+    int View_SetVirtualKeyboardValidator(int kind);
+    int View_SetVirtualKeyboardRangeI(long long bottom, long long top);
+    int View_SetVirtualKeyboardRangeU(unsigned long long bottom, unsigned long long top);
+    int View_SetVirtualKeyboardRangeD(double bottom, double top);
     int View_SetKBoardTextCursorFocus();
     int View_SetKBoardTextCursorPosition(unsigned int windowId, unsigned int position);
     int View_SetKBoardTextSelectCursor(unsigned int windowId, unsigned int start, unsigned int end);

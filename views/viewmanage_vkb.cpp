@@ -43,6 +43,30 @@ int ViewManage::View_PopupVirtualKeyboard(unsigned int id, int type, const char*
     return 0;
 }
 
+int ViewManage::View_SetVirtualKeyboardValidator(int kind)
+{
+    VirtualKeyboardManager::instance()->changeValidator(TextValidator(kind));
+    return 0;
+}
+
+int ViewManage::View_SetVirtualKeyboardRangeI(long long bottom, long long top)
+{
+    VirtualKeyboardManager::instance()->setRangeI(qint64(bottom), qint64(top));
+    return 0;
+}
+
+int ViewManage::View_SetVirtualKeyboardRangeU(unsigned long long bottom, unsigned long long top)
+{
+    VirtualKeyboardManager::instance()->setRangeU(quint64(bottom), quint64(top));
+    return 0;
+}
+
+int ViewManage::View_SetVirtualKeyboardRangeD(double bottom, double top)
+{
+    VirtualKeyboardManager::instance()->setRangeD(bottom, top);
+    return 0;
+}
+
 int ViewManage::View_CloseVirtualKeyboard()
 {
     VirtualKeyboardManager::instance()->hideVkb();

@@ -339,12 +339,40 @@ QGUI_EXPORT int View_CloseVirtualKeyboard();
 /** Closes the Pinyin candidate bar; always 0. */
 QGUI_EXPORT int View_HideKeyBoardWidget();
 /**
- * Opens the virtual keyboard for widget `id` with layout `type` (VkbLayoutType)
- * and the initial text (null is empty). The confirmed text comes back as
- * EVT_VKB_ENTER and the hiding as EVT_VKB_HIDE, both for the latest requester.
- * Always 0.
+ * Opens the virtual keyboard for widget `id` with layout `type` (VkbLayoutType;
+ * other values give free text) and the initial text (null is empty; invalid
+ * UTF-8 shows U+FFFD; longer than the layout's mask: cut to the mask; more than
+ * 32767 characters: cut). Decimal and hexadecimal layouts allow the whole signed
+ * 64-bit range until View_SetVirtualKeyboardRange* narrows it. For the date
+ * and time layouts an empty text opens at the current date/time with the
+ * cursor at 0; other texts open all selected, so the first key replaces them.
+ * The confirmed text comes back as EVT_VKB_ENTER (UTF-8) and the hiding as
+ * EVT_VKB_HIDE, both for the latest requester, even if that widget has been
+ * deleted since. Asking again while open only changes layout, text and
+ * requester. Always 0.
  */
 QGUI_EXPORT int View_PopupVirtualKeyboard(unsigned int id, int type, const char* text);
+/**
+ * Installs validator `kind` (TextValidator) on the open keyboard's entry line;
+ * VALIDATOR_KEEP and unknown kinds keep the current one. Integer kinds show
+ * their range as the placeholder "[ min , max ]". Call after
+ * View_PopupVirtualKeyboard, which installs its layout's validator. Always 0.
+ */
+QGUI_EXPORT int View_SetVirtualKeyboardValidator(int kind);
+/**
+ * Narrows the signed validator of the open keyboard to bottom..top (in its base:
+ * decimal layout 0, hexadecimal layout 1) and shows the range as its
+ * placeholder. Every prefix the operator types must itself lie in the range,
+ * so give ranges whose bottom is at most 0 (or 1 for a one-digit bottom), or
+ * check the bottom in the logic layer when EVT_VKB_ENTER arrives. Without a
+ * signed validator installed the placeholder is emptied. Always 0.
+ */
+QGUI_EXPORT int View_SetVirtualKeyboardRangeI(long long bottom, long long top);
+/** The same for an unsigned validator (VALIDATOR_UINT64, VALIDATOR_HEX_UINT64). Always 0. */
+QGUI_EXPORT int View_SetVirtualKeyboardRangeU(unsigned long long bottom, unsigned long long top);
+/** The same for a floating-point validator (kinds 19, 20); the placeholder shows 6 significant
+ *  digits. Always 0. */
+QGUI_EXPORT int View_SetVirtualKeyboardRangeD(double bottom, double top);
 /** Does nothing; always 0. */
 QGUI_EXPORT int View_SetKBoardTextCursorFocus();
 /** Puts the cursor of a keyboard window's entry line at `position`; 0, or -1 for an unknown window. */

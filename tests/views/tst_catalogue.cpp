@@ -40,7 +40,7 @@ void tst_Catalogue::every_catalogue_entry_is_exported()
         if (!symbols.contains(entry))
             missing << entry;
     }
-    QCOMPARE(views, 198);
+    QCOMPARE(views, 202); // the 198 panel calls and the keyboard's validator and three range calls
     QVERIFY2(missing.isEmpty(), qPrintable("not exported:\n" + missing.join('\n')));
     QVERIFY(entries > 198);
 }
