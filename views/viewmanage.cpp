@@ -3,6 +3,7 @@
 #include "platform/guiqtadaptcore.h"
 #include "views/curvesamplecharttimemodecontroller.h"
 #include "views/lifecyclemanager.h"
+#include "views/pinyinstate.h"
 #include "views/qmlwindowmanage.h"
 #include "views/widgetpropertymanage.h"
 #include "xcomponents/qquick/xinvalidfeature.h"
@@ -32,6 +33,7 @@ ViewManage::ViewManage()
     , m_propertyManage(std::make_unique<WidgetPropertyManage>())
     , m_windowManage(std::make_unique<QmlWindowManage>(m_lifeCycle.get()))
     , m_timeMode(std::make_unique<CurveSampleChartTimeModeController>())
+    , m_pinyin(std::make_unique<PinyinState>())
 {
     XQmlComponentManage::getInstance()->setWindowManage(m_windowManage.get());
 }
@@ -42,6 +44,7 @@ ViewManage::~ViewManage()
     const QList<QQuickItem*> items = m_lifeCycle->allItems();
     m_idHash.clear();
     qDeleteAll(items);
+    m_pinyin.reset(); // its popup lives on an overlay of the window manager
     m_windowManage.reset();
     XQmlComponentManage::getInstance()->setWindowManage(nullptr);
     m_lifeCycle.reset();

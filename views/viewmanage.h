@@ -22,6 +22,7 @@ class WidgetPropertyManage;
 class QmlWindowManage;
 class XQmlComponentManage;
 class CurveSampleChartTimeModeController;
+class PinyinState;
 
 /**
  * The single object behind the exported View_* functions. Each export logs one
@@ -57,6 +58,8 @@ public:
         return m_timeMode.get();
     }
     void setCurveSampleChartTimeModeController(std::unique_ptr<CurveSampleChartTimeModeController> c);
+    /** The Pinyin candidate bar's popup (views/viewmanage_vkb.cpp). */
+    PinyinState* pinyinState() const { return m_pinyin.get(); }
 
     /** Registers a created item: clears its object parent and records it under \a id. */
     void appendItem(unsigned id, QQuickItem* item);
@@ -354,6 +357,7 @@ private:
     std::unique_ptr<WidgetPropertyManage> m_propertyManage;
     std::unique_ptr<QmlWindowManage> m_windowManage;
     std::unique_ptr<CurveSampleChartTimeModeController> m_timeMode;
+    std::unique_ptr<PinyinState> m_pinyin;
     QHash<unsigned, QQuickItem*> m_idHash;
 };
 

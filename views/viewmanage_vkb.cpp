@@ -1,7 +1,11 @@
-// The on-screen keyboard and the Pinyin candidate bar: not built yet. Every call is accepted and changes
-// nothing: the creators create nothing and return -1 (as for an unknown window); the other calls return what
-// they return for an unknown id.
+// The on-screen keyboard and the Pinyin candidate bar. The keyboard is not built yet: its calls are
+// accepted and change nothing, returning what they return for an unknown id.
 #include "views/viewmanage.h"
+
+#include "views/pinyinstate.h"
+#include "views/qmlwindowmanage.h"
+
+#include <qgui/ids.h>
 
 int ViewManage::View_ChangeKBText(unsigned int, const char*, const Font*)
 {
@@ -15,6 +19,7 @@ int ViewManage::View_CloseVirtualKeyboard()
 
 int ViewManage::View_HideKeyBoardWidget()
 {
+    m_pinyin->hide();
     return 0;
 }
 
@@ -38,7 +43,13 @@ int ViewManage::View_SetKBoardTextSelectCursor(unsigned int, unsigned int, unsig
     return 0;
 }
 
-int ViewManage::View_ShowKeyBoardWidget(View_keyBoardData*)
+int ViewManage::View_ShowKeyBoardWidget(View_keyBoardData* data)
 {
+    // the panel-wide overlay (that of id 0); a panel without desktop 0 shows the bar on the
+    // current desktop's overlay
+    XOverlay* overlay = m_windowManage->getOverlay(GetDeskNoFromWndId(0));
+    if (!overlay)
+        overlay = m_windowManage->getOverlay(m_windowManage->currentDesktop());
+    m_pinyin->show(overlay, data); // null record or no desktop yet: nothing is shown
     return 0;
 }
