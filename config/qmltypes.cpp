@@ -16,6 +16,8 @@
 #include "xcomponents/qquick/xinvalidfeature.h"
 #include "xcomponents/qquick/xlineinputtext.h"
 #include "xcomponents/qquick/xlumodialog.h"
+#include "xcomponents/qquick/xpinyinboard.h"
+#include "xcomponents/qquick/xpinyindlg.h"
 #include "xcomponents/qquick/xqrcode.h"
 #include "xcomponents/qquick/xquickimage.h"
 #include "xcomponents/qquick/xquicktextedit.h"
@@ -62,6 +64,10 @@ void registerQmlTypes()
     // Shapes and images
     qmlRegisterType<XQuickImage>(uri, 1, 0, "XImage");
     qmlRegisterType<XQRCode>(uri, 1, 0, "XQRCode");
+
+    // Virtual keyboard: the Pinyin candidate bar
+    qmlRegisterType<XPinyinBoard>(uri, 1, 0, "XPinyinBoard");
+    qmlRegisterType<XPinyinDlg>(uri, 1, 0, "XPinyinDlg");
 
     // Date and time
     qmlRegisterType<XTumblerTimeModel>(uri, 1, 0, "XTumblerTimeModel");

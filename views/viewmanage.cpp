@@ -4,6 +4,7 @@
 #include "views/curvesamplecharttimemodecontroller.h"
 #include "views/lifecyclemanager.h"
 #include "views/presswatcher.h"
+#include "views/pinyinstate.h"
 #include "views/qmlwindowmanage.h"
 #include "views/virtualkeyboardmanager.h"
 #include "views/vkbstate.h"
@@ -36,6 +37,7 @@ ViewManage::ViewManage()
     , m_windowManage(std::make_unique<QmlWindowManage>(m_lifeCycle.get()))
     , m_timeMode(std::make_unique<CurveSampleChartTimeModeController>())
     , m_vkb(std::make_unique<VkbState>())
+    , m_pinyin(std::make_unique<PinyinState>())
 {
     XQmlComponentManage::getInstance()->setWindowManage(m_windowManage.get());
     // the keyboard's layer takes the panel's dimming colour and stays usable on a dimmed panel
@@ -52,6 +54,7 @@ ViewManage::~ViewManage()
     m_idHash.clear();
     qDeleteAll(items);
     m_vkb.reset();
+    m_pinyin.reset(); // its popup lives on an overlay of the window manager
     m_windowManage.reset();
     XQmlComponentManage::getInstance()->setWindowManage(nullptr);
     m_lifeCycle.reset();

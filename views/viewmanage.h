@@ -23,6 +23,7 @@ class QmlWindowManage;
 class XQmlComponentManage;
 class CurveSampleChartTimeModeController;
 class VkbState;
+class PinyinState;
 
 /**
  * The single object behind the exported View_* functions. Each export logs one
@@ -60,6 +61,8 @@ public:
     void setCurveSampleChartTimeModeController(std::unique_ptr<CurveSampleChartTimeModeController> c);
     /** The keyboard family's requester (views/vkbstate.h). */
     VkbState* vkbState() const { return m_vkb.get(); }
+    /** The Pinyin candidate bar's popup (views/viewmanage_vkb.cpp). */
+    PinyinState* pinyinState() const { return m_pinyin.get(); }
 
     /** Registers a created item: clears its object parent and records it under \a id. */
     void appendItem(unsigned id, QQuickItem* item);
@@ -361,6 +364,7 @@ private:
     std::unique_ptr<WidgetPropertyManage> m_propertyManage;
     std::unique_ptr<QmlWindowManage> m_windowManage;
     std::unique_ptr<CurveSampleChartTimeModeController> m_timeMode;
+    std::unique_ptr<PinyinState> m_pinyin;
     QHash<unsigned, QQuickItem*> m_idHash;
     std::unique_ptr<VkbState> m_vkb;
 };

@@ -1,10 +1,10 @@
-// The on-screen keyboard (opened for a widget, confirmed or closed) and the
-// keyboard window's entry line. The Pinyin candidate bar is built separately
-// and still accepts its calls without showing anything.
+// The on-screen keyboard (opened for a widget, confirmed or closed), the
+// keyboard window's entry line, and the Pinyin candidate bar.
 #include "views/viewmanage.h"
 
 #include "platform/guiqtadaptcore.h"
 #include "views/panelhost.h"
+#include "views/pinyinstate.h"
 #include "views/qmlwindowmanage.h"
 #include "views/virtualkeyboardmanager.h"
 #include "views/vkbstate.h"
@@ -13,6 +13,8 @@
 #include "xcomponents/qquick/xkeyboardedit.h"
 
 #include <QQuickItem>
+
+#include <qgui/ids.h>
 
 using GuiQtAdapt::Core;
 
@@ -104,10 +106,17 @@ int ViewManage::View_SetKBoardTextSelectCursor(unsigned int windowId, unsigned i
 
 int ViewManage::View_HideKeyBoardWidget()
 {
+    m_pinyin->hide();
     return 0;
 }
 
-int ViewManage::View_ShowKeyBoardWidget(View_keyBoardData*)
+int ViewManage::View_ShowKeyBoardWidget(View_keyBoardData* data)
 {
+    // the panel-wide overlay (that of id 0); a panel without desktop 0 shows the bar on the
+    // current desktop's overlay
+    XOverlay* overlay = m_windowManage->getOverlay(GetDeskNoFromWndId(0));
+    if (!overlay)
+        overlay = m_windowManage->getOverlay(m_windowManage->currentDesktop());
+    m_pinyin->show(overlay, data); // null record or no desktop yet: nothing is shown
     return 0;
 }

@@ -336,7 +336,7 @@ QGUI_EXPORT int View_SetTextSelectCursor(unsigned int id, unsigned int start, un
 QGUI_EXPORT int View_ChangeKBoardTextContent(unsigned int windowId, const char* text, const Font* font);
 /** Hides the virtual keyboard (EVT_VKB_HIDE follows); always 0. */
 QGUI_EXPORT int View_CloseVirtualKeyboard();
-/** Closes the Pinyin candidate bar; always 0. */
+/** Closes the Pinyin candidate bar (a later View_ShowKeyBoardWidget opens it again); always 0. */
 QGUI_EXPORT int View_HideKeyBoardWidget();
 /**
  * Opens the virtual keyboard for widget `id` with layout `type` (VkbLayoutType;
@@ -379,7 +379,13 @@ QGUI_EXPORT int View_SetKBoardTextCursorFocus();
 QGUI_EXPORT int View_SetKBoardTextCursorPosition(unsigned int windowId, unsigned int position);
 /** Selects characters start..end of a keyboard window's entry line; always 0. */
 QGUI_EXPORT int View_SetKBoardTextSelectCursor(unsigned int windowId, unsigned int start, unsigned int end);
-/** Opens the Pinyin candidate bar above everything and fills it from the record; always 0. */
+/**
+ * Opens the Pinyin candidate bar above everything (z 2147483647 on the overlay of desktop 0, or of the
+ * current desktop when there is no desktop 0) and fills it from the record; a bar already open is refilled.
+ * Pressing a shown candidate sends EVT_PINYIN_SELECT (int index among the candidates shown), the page
+ * buttons EVT_PINYIN_NEXT_PAGE / EVT_PINYIN_PREV_PAGE, all with id 0. Always 0; a null record or a panel
+ * without a desktop shows nothing.
+ */
 QGUI_EXPORT int View_ShowKeyBoardWidget(View_keyBoardData* data);
 
 /* ---- list controls ---- */
