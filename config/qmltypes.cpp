@@ -11,6 +11,7 @@
 #include "xcomponents/qquick/xbasetext.h"
 #include "xcomponents/qquick/xbutton.h"
 #include "xcomponents/qquick/xcausetext.h"
+#include "xcomponents/qquick/xdatetimeedit.h"
 #include "xcomponents/qquick/xdisenableicon.h"
 #include "xcomponents/qquick/xinvalidfeature.h"
 #include "xcomponents/qquick/xlumodialog.h"
@@ -52,6 +53,7 @@ void registerQmlTypes()
     qmlRegisterType<XQuickImage>(uri, 1, 0, "XImage");
     qmlRegisterType<XQRCode>(uri, 1, 0, "XQRCode");
 
-    // Date and time
+    // Date and time: the clock field and the picker's tumbler columns
+    qmlRegisterType<XDateTimeEdit>(uri, 1, 0, "XDateTimeEdit");
     qmlRegisterType<XTumblerTimeModel>(uri, 1, 0, "XTumblerTimeModel");
 }
