@@ -151,9 +151,6 @@ void tst_DateTime::creation_takes_the_record()
     XDateTimeEdit* c = clock(31);
     QVERIFY(c);
     QCOMPARE(c->text(), shown);
-    QCOMPARE(c->getId(), 31u);
-    QCOMPARE(c->getWindowId(), A);
-    QCOMPARE(c->position(), QPointF(10, 20));
     QCOMPARE(c->textItem()->color(), QColor(0, 0, 0xC0));
     QCOMPARE(c->textItem()->lineHeightMode(), QQuickText::FixedHeight);
     QCOMPARE(c->textItem()->lineHeight(), 30.0);
