@@ -12,6 +12,7 @@
 #include "xcomponents/qquick/xbasetextinputcontrol.h"
 #include "xcomponents/qquick/xbutton.h"
 #include "xcomponents/qquick/xcausetext.h"
+#include "xcomponents/qquick/xdatetimeedit.h"
 #include "xcomponents/qquick/xdisenableicon.h"
 #include "xcomponents/qquick/xinvalidfeature.h"
 #include "xcomponents/qquick/xlineinputtext.h"
@@ -69,6 +70,7 @@ void registerQmlTypes()
     qmlRegisterType<XPinyinBoard>(uri, 1, 0, "XPinyinBoard");
     qmlRegisterType<XPinyinDlg>(uri, 1, 0, "XPinyinDlg");
 
-    // Date and time
+    // Date and time: the clock field and the picker's tumbler columns
+    qmlRegisterType<XDateTimeEdit>(uri, 1, 0, "XDateTimeEdit");
     qmlRegisterType<XTumblerTimeModel>(uri, 1, 0, "XTumblerTimeModel");
 }

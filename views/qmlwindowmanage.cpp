@@ -14,6 +14,7 @@
 #include "xcomponents/qquick/xwindow.h"
 #include "xcomponents/qquick/xwindowbackground.h"
 
+#include <QDateTime>
 #include <QGuiApplication>
 #include <QQmlEngine>
 #include <QQuickView>
@@ -28,6 +29,8 @@ const QUrl kDesktopUrl(QStringLiteral("qrc:/QmlDesktop.qml"));
 const QUrl kLighterUrl(QStringLiteral("qrc:/QmlLighterPopup.qml"));
 const QUrl kMessageUrl(QStringLiteral("qrc:/QmlMessageBox.qml"));
 const QUrl kBusyUrl(QStringLiteral("qrc:/QmlBusyBar.qml"));
+const QUrl kDateTimeUrl(QStringLiteral("qrc:/datetimeset/XDateTimeSet.qml"));
+const char kDateTimeFormat[] = "yyyy-MM-dd hh:mm:ss";
 constexpr int kDefaultTitleHeight = 40;
 
 template <typename T> void prune(QList<QPointer<T>>& list)
@@ -54,6 +57,7 @@ QmlWindowManage::~QmlWindowManage()
         delete w.data();
     delete m_msgBox.data();
     delete m_busyBar.data();
+    delete m_dateTime.data();
     for (const auto& l : qAsConst(m_lighters))
         delete l.data();
     for (const auto& d : qAsConst(m_desktops))
@@ -485,4 +489,43 @@ void QmlWindowManage::stopBarAnimation()
 {
     if (m_busyBar)
         QMetaObject::invokeMethod(m_busyBar, "stop");
+}
+
+// ---- date/time popup
+
+XPopup* QmlWindowManage::popupDateTimeWindow(QQuickItem* widget, const QString& text)
+{
+    if (!widget || widget->metaObject()->indexOfSlot("onOkButtonClicked(QString)") < 0)
+        return nullptr;
+    XOverlay* overlay = getOverlay(m_currentDesk);
+    if (!overlay)
+        return nullptr;
+    if (XPopup* old = m_dateTime.data()) {
+        m_dateTime.clear();
+        old->close(); // its closed() handler cuts its connection and deletes it
+    }
+    QDateTime moment = QDateTime::fromString(text, QLatin1String(kDateTimeFormat));
+    if (!moment.isValid())
+        moment = QDateTime::currentDateTime();
+    auto* popup = qobject_cast<XPopup*>(XQmlComponentManage::getInstance()->createItem(
+        kDateTimeUrl, overlay, { { QStringLiteral("dateTime"), moment } }));
+    if (!popup)
+        return nullptr;
+    popup->setOverlay(overlay);
+    popup->setZ(kDateTimeZ);
+    popup->setPosition(QPointF(qMax<qreal>(0, (overlay->width() - popup->width()) / 2),
+        qMax<qreal>(0, (overlay->height() - popup->height()) / 2)));
+    const QMetaObject::Connection link
+        = connect(popup, SIGNAL(onOkClicked(QString)), widget, SLOT(onOkButtonClicked(QString)));
+    // closing (by its buttons, or by a later popup) ends the link: a later popup talks only to its
+    // own widget
+    connect(popup, &XPopup::closed, this, [this, popup, link]() {
+        disconnect(link);
+        if (m_dateTime == popup)
+            m_dateTime.clear();
+        popup->deleteLater();
+    });
+    m_dateTime = popup;
+    popup->open();
+    return popup;
 }

@@ -37,6 +37,7 @@ public:
     static constexpr double kLighterZ = 2147483647.0;
     static constexpr double kMessageZ = 2147483645.0;
     static constexpr double kBusyZ = 2147483646.0;
+    static constexpr double kDateTimeZ = 2147483644.0;
 
     explicit QmlWindowManage(LifeCycleManager* lifeCycle, QObject* parent = nullptr);
     ~QmlWindowManage() override;
@@ -83,6 +84,17 @@ public:
     void stopBarAnimation();
     QQuickItem* busyBar() const { return m_busyBar.data(); }
 
+    // date/time popup
+    /**
+     * Opens the date/time popup for \a widget on the current desktop, preset from \a text
+     * ("yyyy-MM-dd hh:mm:ss"; any other text presets the current date and time). The popup's
+     * onOkClicked(QString) goes to the widget's onOkButtonClicked(QString) until the popup
+     * closes. A popup already open is closed first: there is never more than one. Null, and
+     * nothing opens, when \a widget has no such slot or there is no desktop.
+     */
+    XPopup* popupDateTimeWindow(QQuickItem* widget, const QString& text);
+    XPopup* dateTimeWindow() const { return m_dateTime.data(); }
+
     QQmlEngine* getEngine() const;
     /** The item desktops are placed in (the shell's panel content), or null without a shell. */
     QQuickItem* panel() const;
@@ -103,6 +115,7 @@ private:
     QList<QPointer<XLumoDialog>> m_dialogs;
     QPointer<XPopup> m_msgBox;
     QPointer<QQuickItem> m_busyBar;
+    QPointer<XPopup> m_dateTime;
     PressWatcher* m_pressWatcher = nullptr; // owned (child)
     unsigned m_currentDesk = 0;
     bool m_hasDesk = false;

@@ -474,10 +474,13 @@ QGUI_EXPORT int View_MenuPopupDropdownBox(unsigned int id);
 
 /* ---- date and time ---- */
 
-/** Creates a clock field. */
+/** Creates a clock field; 0, or -1 for a null record or an unknown window. A press on the field is reported
+ * as events 2 and 3; the field never changes its text by itself. */
 QGUI_EXPORT int View_CreateInputClock(const View_InputClock* rec, unsigned int windowId);
-/** Opens the date/time pop-up for widget `id`, preset from "yyyy-MM-dd hh:mm:ss" text; the choice comes as
- * EVT_DATETIME_OK. Always 0. */
+/** Opens the date/time pop-up for the clock field `id`, preset from the text "yyyy-MM-dd hh:mm:ss" (null or
+ * any other text presets the current date and time). "Confirm" sends the choice as EVT_DATETIME_OK with
+ * the id of this field; "Cancel" sends nothing; both close the pop-up. A pop-up already open is replaced.
+ * Always 0; an unknown id, or a widget that is not a clock field, opens nothing. */
 QGUI_EXPORT int View_PopupDateTimeDialog(unsigned int id, const char* text);
 
 /* ---- sample curve chart ---- */

@@ -11,6 +11,7 @@
 #include "xcomponents/qquick/xbasepainteditem.h"
 #include "xcomponents/qquick/xbutton.h"
 #include "xcomponents/qquick/xcausetext.h"
+#include "xcomponents/qquick/xdatetimeedit.h"
 #include "xcomponents/qquick/xlumodialog.h"
 #include "xcomponents/qquick/xquickimage.h"
 #include "xcomponents/qquick/xsktextlabel.h"
@@ -22,6 +23,7 @@
 #include <QQuickWindow>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QtQuick/private/qquicktext_p.h>
 
 #include <climits>
 #include <functional>
@@ -36,7 +38,7 @@ constexpr qint64 kMaxGap = 200;
 constexpr qint64 kMaxGap = 100;
 #endif
 
-enum Kind { Text, Button, QrCode, Placeholder };
+enum Kind { Text, Button, QrCode, Placeholder, Clock };
 
 /** The largest gap between the ticks of a 10 ms timer (the logic layer's cycle) while \a work
  *  runs, then while the scene renders what it did. */
@@ -117,6 +119,10 @@ int tst_EveryKind::create(Kind kind, unsigned id, Rect r, const char* text, cons
         View_QRCode rec { 0, r, id, 1, 0xFF000000u, 0xFFFFFFFFu };
         return View_CreateQRCode(&rec, A);
     }
+    case Clock: {
+        View_InputClock rec { 0, r, id, nullptr, text, f, 0 };
+        return View_CreateInputClock(&rec, A);
+    }
     case Placeholder: {
         View_CameraIP rec {};
         rec.rect = r;
@@ -141,11 +147,12 @@ void tst_EveryKind::show_and_hide_by_type_data()
         const char* name;
         Kind kind;
     } kinds[] = { { "static text", Text }, { "button", Button }, { "QR code", QrCode },
-        { "placeholder", Placeholder } };
+        { "placeholder", Placeholder }, { "clock field", Clock } };
     for (const auto& k : kinds) {
         QTest::addRow("%s, whole", k.name) << int(k.kind) << 0 << 0 << false;
         QTest::addRow("%s, picture", k.name) << int(k.kind) << 1 << 0 << true;
-        QTest::addRow("%s, slash", k.name) << int(k.kind) << 2 << (k.kind == Button ? 0 : -1) << true;
+        QTest::addRow("%s, slash", k.name)
+            << int(k.kind) << 2 << (k.kind == Button || k.kind == Clock ? 0 : -1) << true;
         QTest::addRow("%s, unknown type", k.name) << int(k.kind) << 7 << 0 << false;
     }
 }
@@ -184,32 +191,38 @@ void tst_EveryKind::show_and_hide_by_type()
 void tst_EveryKind::font_colour_recolours_every_kind_that_shows_text_data()
 {
     QTest::addColumn<int>("kind");
-    QTest::newRow("static text") << int(Text);
-    QTest::newRow("button") << int(Button);
+    QTest::addColumn<QColor>("grey");
+    QTest::newRow("static text") << int(Text) << QColor("gray");
+    QTest::newRow("button") << int(Button) << QColor("gray");
+    // the input fields' grey is Qt's own
+    QTest::newRow("clock field") << int(Clock) << QColor(Qt::gray);
 }
 
 void tst_EveryKind::font_colour_recolours_every_kind_that_shows_text()
 {
     QFETCH(int, kind);
+    QFETCH(QColor, grey);
     QCOMPARE(create(Kind(kind), 11), 0);
     QQuickItem* item = ViewManage::getInstance()->getItemById(11);
-    XskTextLabel* label = nullptr;
+    std::function<QColor()> colour;
     if (auto* t = qobject_cast<XCauseText*>(item))
-        label = t->mainLabel();
+        colour = [t] { return t->mainLabel()->color(); };
     else if (auto* b = qobject_cast<XButton*>(item))
-        label = b->textItem()->mainLabel();
-    QVERIFY(label);
+        colour = [b] { return b->textItem()->mainLabel()->color(); };
+    else if (auto* c = qobject_cast<XDateTimeEdit*>(item))
+        colour = [c] { return c->textItem()->color(); };
+    QVERIFY(colour);
     const Brush green { BRUSH_SOLID, 0xFF00C000u, 0, 0 };
     QCOMPARE(View_ChangeFontColor(11, &green), 0);
-    QCOMPARE(label->color(), QColor(0, 0xC0, 0));
+    QCOMPARE(colour(), QColor(0, 0xC0, 0));
 
     // grey wins while set; the colour comes back with it cleared
     QCOMPARE(View_SetDisableFlag(11, 4), 0);
     const Brush blue { BRUSH_SOLID, 0xFF0000FFu, 0, 0 };
     QCOMPARE(View_ChangeFontColor(11, &blue), 0);
-    QCOMPARE(label->color(), QColor("gray"));
+    QCOMPARE(colour(), grey);
     QCOMPARE(View_ClrDisableFlag(11, 4), 0);
-    QCOMPARE(label->color(), QColor(Qt::blue));
+    QCOMPARE(colour(), QColor(Qt::blue));
 }
 
 void tst_EveryKind::enormous_sizes_keep_their_geometry_but_not_their_memory_data()
