@@ -51,6 +51,25 @@ bool ImageGraber::grabImageOf(
     if (!item || path.isEmpty() || !item->window() || !item->window()->isVisible() || item->width() <= 0
         || item->height() <= 0)
         return false;
+    GuiShell* shell = GuiShell::instance();
+    if (shell && item == shell->getGuiRect()) {
+        // the whole panel as the operator sees it: what lies over it (the on-screen keyboard and its
+        // entry line) is in the picture too
+        QImage img = item->window()->grabWindow();
+        const QRect onScreen = item->mapRectToScene(item->boundingRect()).toAlignedRect();
+        img = img.copy(onScreen.intersected(img.rect()));
+        if (rect.width() > 0 && rect.height() > 0)
+            img = img.copy(rect);
+        ++m_pending;
+        QMetaObject::invokeMethod(
+            this,
+            [this, img, id, quality, path]() {
+                --m_pending;
+                save(id, img, quality, path);
+            },
+            Qt::QueuedConnection);
+        return true;
+    }
     QSharedPointer<QQuickItemGrabResult> result = item->grabToImage();
     if (!result)
         return false;
@@ -62,14 +81,19 @@ bool ImageGraber::grabImageOf(
             QImage img = result->image();
             if (rect.width() > 0 && rect.height() > 0)
                 img = img.copy(rect);
-            const QFileInfo fi(path);
-            QDir().mkpath(fi.absolutePath());
-            const bool ok = !img.isNull() && img.save(path, nullptr, quality > 0 ? qMin(quality, 100) : -1);
-            if (!ok)
-                NLog::NLogger::instance()->logger()->warn("screenshot not written: {}", path.toStdString());
-            report(id, ok ? 0 : -1, path);
+            save(id, img, quality, path);
         });
     return true;
+}
+
+void ImageGraber::save(unsigned id, const QImage& img, int quality, const QString& path)
+{
+    const QFileInfo fi(path);
+    QDir().mkpath(fi.absolutePath());
+    const bool ok = !img.isNull() && img.save(path, nullptr, quality > 0 ? qMin(quality, 100) : -1);
+    if (!ok)
+        NLog::NLogger::instance()->logger()->warn("screenshot not written: {}", path.toStdString());
+    report(id, ok ? 0 : -1, path);
 }
 
 bool ImageGraber::loadImage(unsigned id, const QString& path)

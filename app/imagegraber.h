@@ -25,7 +25,8 @@ public:
     QQuickItem* itemFor(unsigned windowId) const;
 
     /** Starts grabbing \a item (its part \a rect in item pixels; an empty rect is all of it) into
-     *  \a path. Returns false when nothing can be started (null item, empty path, item not in a
+     *  \a path. The whole panel is taken from the window, with what lies over it (the on-screen
+     *  keyboard). Returns false when nothing can be started (null item, empty path, item not in a
      *  shown window); then no event follows. */
     bool grabImageOf(unsigned id, QQuickItem* item, const QRect& rect, int quality, const QString& path);
     /** Reads \a path, converts it to 32-bit ARGB and sends event 2051 with its pixels. Returns
@@ -37,6 +38,8 @@ public:
 private:
     explicit ImageGraber(QObject* parent = nullptr);
     void report(unsigned id, int result, const QString& path);
+    /** Writes \a img to \a path and reports the result. */
+    void save(unsigned id, const QImage& img, int quality, const QString& path);
 
     int m_pending = 0;
 };

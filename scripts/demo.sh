@@ -15,7 +15,7 @@ mkdir -p "$out"
 if [ -z "${DISPLAY:-}" ]; then
   echo "demo: no display, running headless under Xvfb; screenshots go to $out"
   exec xvfb-run -a -s "-screen 0 1280x800x24" "$build/examples/demo_panel/demo_panel" \
-       --headless --screenshot-dir "$out" --quit-after 6000 "$@"
+       --headless --screenshot-dir "$out" --quit-after 16000 "$@"
 else
   exec "$build/examples/demo_panel/demo_panel" "$@"
 fi

@@ -2,6 +2,8 @@
 // thread, inside the library's call-backs.
 #include "demologic.h"
 
+#include "entryscreen.h"
+
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -20,6 +22,10 @@ const unsigned kDesk = 1;
 const unsigned kWindow1 = (kDesk << 16) | 1; // window ids: desktop number in the high 16 bits
 const unsigned kWindow2 = (kDesk << 16) | 2;
 const unsigned kPopup = (kDesk << 16) | 3;
+const unsigned kEntry = (kDesk << 16) | 4; // the entry screen (entryscreen.cpp)
+const int kEntryFrom = 60, kEntryEvery = 5; // its script: one step every half second from 6 s
+int g_entryStep = 0;
+bool g_entryDone = false;
 unsigned g_current = 0;
 
 // widget ids of window 1
@@ -116,8 +122,12 @@ void showWindow(unsigned windowId)
     w.rect = Rect { 0, 0, 1024, 600 };
     w.background = windowId == kWindow1 ? Brush { BRUSH_LINEAR, 0xFF2B3A4Au, 0xFF4F6D8Au, 90 }
                                         : Brush { BRUSH_SOLID, 0xFFECEFF3u, 0, 0 };
+    if (windowId == kEntry)
+        w.background = Brush { BRUSH_SOLID, 0xFFE8EDF3u, 0, 0 };
     View_SwitchWindow(&w);
     g_current = windowId;
+    if (windowId == kEntry)
+        EntryScreen::build(kEntry);
     if (windowId == kWindow1)
         buildWindow1();
     if (windowId == kWindow2) {
@@ -177,6 +187,13 @@ const char* eventName(int code)
         return "keyboard hidden";
     case EVT_SCREENSHOT:
         return "screenshot";
+    case EVT_PINYIN_SELECT:
+        return "candidate chosen";
+    case EVT_PINYIN_NEXT_PAGE:
+    case EVT_PINYIN_PREV_PAGE:
+        return "candidate page";
+    case EVT_DATETIME_OK:
+        return "date/time chosen";
     default:
         return "event";
     }
@@ -194,12 +211,16 @@ ErrRet onEvent(unsigned id, int code, void* data)
         } else if (code == EVT_SCREENSHOT) {
             auto* s = static_cast<View_EvtScreenShot*>(data);
             std::printf(" result %d file %s", s->result, s->path ? s->path : "");
-        } else if (code == EVT_VKB_ENTER) {
+        } else if (code == EVT_VKB_ENTER || code == EVT_DATETIME_OK) {
             std::printf(" text \"%s\"", static_cast<const char*>(data));
+        } else if (code == EVT_PINYIN_SELECT) {
+            std::printf(" index %d", *static_cast<int*>(data));
         }
     }
     std::printf("\n");
     std::fflush(stdout);
+    if (EntryScreen::onEvent(id, code, data))
+        return 0;
     if (code == EVT_POPUP_CLOSE && id == kPopup)
         closePopup(); // the close button only reports: closing is the logic layer's decision
     if (id == kStart && (code == EVT_WIDGET_PRESS || code == EVT_WIDGET_RELEASE)) {
@@ -304,7 +325,11 @@ void every100ms(int)
             std::snprintf(qr, sizeof(qr), "batch %04d / line 3", ++g_batch);
             View_UpdateQRCodeContent(kQr, qr); // ignored while window 1 is closed
         }
-        if (g_ticks100 > 55 && g_ticks100 % 30 == 0)
+        if (g_ticks100 == 58)
+            showWindow(kEntry);
+        if (!g_entryDone && g_ticks100 >= kEntryFrom && (g_ticks100 - kEntryFrom) % kEntryEvery == 0)
+            g_entryDone = !EntryScreen::scriptStep(g_entryStep++, screenshot);
+        if (g_entryDone && g_ticks100 % 30 == 0)
             showWindow(g_current == kWindow1 ? kWindow2 : kWindow1);
         break;
     }

@@ -53,6 +53,7 @@ public:
     bool inputFlag() const { return m_inputFlag; }
     /** Marks the field as the target of the popup's entry (stored; the field looks the same). */
     Q_INVOKABLE void setInputFlag(bool on);
+    Q_INVOKABLE void setInputFlag() { setInputFlag(true); }
     Q_INVOKABLE void clearInputFlag() { setInputFlag(false); }
     Q_INVOKABLE void setInputMode(bool on) { setInputFlag(on); }
 
