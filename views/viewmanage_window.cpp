@@ -6,7 +6,9 @@
 #include "platform/globalinfo.h"
 #include "platform/guiqtadaptcore.h"
 #include "views/lifecyclemanager.h"
+#include "views/panelhost.h"
 #include "views/qmlwindowmanage.h"
+#include "views/virtualkeyboardmanager.h"
 #include "xcomponents/qquick/xlumodialog.h"
 #include "xcomponents/qquick/xwindow.h"
 #include "xcomponents/qquick/xwindowtitile.h"
@@ -14,6 +16,12 @@
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QQuickItem>
+#include <QTimer>
+
+namespace {
+/** How long after a desktop is created the hidden keyboard is made. */
+constexpr int kKeyboardPrepareMs = 300;
+} // namespace
 
 int ViewManage::View_CreateDesktop(const Size& size, unsigned int desktopNo)
 {
@@ -23,6 +31,13 @@ int ViewManage::View_CreateDesktop(const Size& size, unsigned int desktopNo)
             QStringLiteral("$GlobalConfig"), GlobalConfig::getInstance());
         engine->rootContext()->setContextProperty(QStringLiteral("$GlobalInfo"), GlobalInfo::instance());
     }
+    // the keyboard is made (hidden) while the panel is idle, so that the operator's first touch on a
+    // field opens it at once instead of compiling it then
+    QTimer::singleShot(kKeyboardPrepareMs, this, [] {
+        PanelHost* host = PanelHost::getInstance();
+        if (QQuickItem* root = host ? host->getGuiRect() : nullptr)
+            VirtualKeyboardManager::instance()->init(root);
+    });
     return 0;
 }
 

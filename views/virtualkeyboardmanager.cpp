@@ -154,6 +154,42 @@ void VirtualKeyboardManager::init(QQuickItem* root)
         connect(keys, &QQuickItem::widthChanged, this, &VirtualKeyboardManager::placePopup);
     }
     placePopup();
+    warmUp(window);
+}
+
+void VirtualKeyboardManager::warmUp(QQuickWindow* window)
+{
+    // One frame with the line and the keys drawn almost transparent, so that their scene-graph
+    // nodes, textures and glyphs exist before the operator's first touch on a field.
+    if (!window || !window->isVisible() || m_shown)
+        return;
+    m_warming = true;
+    m_layer->setOpacity(0.01);
+    m_layer->setEnabled(false); // takes no press while nearly invisible
+    vkb()->show();
+    m_popup->setVisible(true);
+    auto* done = new QMetaObject::Connection;
+    *done = connect(window, &QQuickWindow::frameSwapped, this, [this, done] {
+        disconnect(*done);
+        delete done;
+        endWarmUp();
+    }, Qt::QueuedConnection);
+}
+
+void VirtualKeyboardManager::endWarmUp()
+{
+    if (!m_warming)
+        return;
+    m_warming = false;
+    if (m_layer) {
+        m_layer->setOpacity(1.0);
+        m_layer->setEnabled(true);
+    }
+    if (m_shown)
+        return; // opened meanwhile: it stays
+    vkb()->hide();
+    if (m_popup)
+        m_popup->setVisible(false);
 }
 
 QQuickItem* VirtualKeyboardManager::keyboardItem() const
@@ -206,10 +242,11 @@ void VirtualKeyboardManager::showVkb(bool show)
         return;
     if (!m_shown && m_root)
         m_baseY = m_root->y();
+    m_shown = true;
+    endWarmUp();
     vkb()->show();
     QMetaObject::invokeMethod(m_popup, "open");
     placePopup();
-    m_shown = true;
     if (m_anchor != 0)
         updateGuiRect(m_anchor);
 }
@@ -218,6 +255,7 @@ void VirtualKeyboardManager::hideVkb()
 {
     const bool wasShown = m_shown;
     m_shown = false;
+    endWarmUp();
     if (m_popup)
         QMetaObject::invokeMethod(m_popup, "close");
     vkb()->hide();

@@ -8,6 +8,8 @@
 #include <QString>
 #include <QValidator>
 
+class QQuickWindow;
+
 #include <qgui/records_input.h>
 
 #include <QQuickItem>
@@ -106,6 +108,8 @@ private:
     VirtualKeyboardManager();
     XVkbInterface* vkb() const;
     void placePopup();
+    void warmUp(QQuickWindow* window);
+    void endWarmUp();
     void installValidator(QValidator* validator);
     void onActiveTextDestroyed();
 
@@ -121,6 +125,7 @@ private:
     qreal m_baseY = 0;
     int m_anchor = 0;
     bool m_shown = false;
+    bool m_warming = false;
 };
 
 #endif // VIRTUALKEYBOARDMANAGER_H

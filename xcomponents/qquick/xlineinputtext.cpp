@@ -40,7 +40,6 @@ QQuickTextInput::VAlignment vAlignOf(int flags)
 XLineInputText::XLineInputText(QQuickItem* parent)
     : XBaseTextInputControl(parent)
     , m_line(new QQuickTextInput(this))
-    , m_slash(new QQuickText(this))
 {
     // the line shows; presses and keys belong to the field (the keyboard has its own entry line)
     m_line->setAcceptedMouseButtons(Qt::NoButton);
@@ -57,22 +56,20 @@ XLineInputText::XLineInputText(QQuickItem* parent)
     m_line->setWidth(width()); // the height is the text's own: the vertical anchors place it
     m_line->setFont(font());
 
-    m_slash->setVisible(false);
-    m_slash->setZ(1);
-    m_slash->setAcceptedMouseButtons(Qt::NoButton);
-    m_slash->setHAlign(QQuickText::AlignHCenter);
-    m_slash->setVAlign(QQuickText::AlignVCenter);
-    m_slash->setFont(font());
-
     setAlignment(0x01 | 0x80, 0, 0);
     connect(this, &QQuickItem::widthChanged, this, [this] {
         m_line->setWidth(width());
-        m_slash->setWidth(width());
+        if (m_slash)
+            m_slash->setWidth(width());
     });
-    connect(this, &QQuickItem::heightChanged, this, [this] { m_slash->setHeight(height()); });
+    connect(this, &QQuickItem::heightChanged, this, [this] {
+        if (m_slash)
+            m_slash->setHeight(height());
+    });
     connect(this, &QQuickControl::fontChanged, this, [this] {
         m_line->setFont(font());
-        m_slash->setFont(font());
+        if (m_slash)
+            m_slash->setFont(font());
     });
     connect(m_line, &QQuickTextInput::textChanged, this, &XBaseTextInputControl::textChanged);
 }
@@ -100,14 +97,32 @@ void XLineInputText::setCursorPosition(int position)
     m_line->setCursorPosition(qBound(0, position, m_line->text().size()));
 }
 
+QQuickText* XLineInputText::slashItem()
+{
+    if (!m_slash) {
+        m_slash = new QQuickText(this);
+        m_slash->setZ(1);
+        m_slash->setAcceptedMouseButtons(Qt::NoButton);
+        m_slash->setHAlign(QQuickText::AlignHCenter);
+        m_slash->setVAlign(QQuickText::AlignVCenter);
+        m_slash->setFont(font());
+        m_slash->setColor(m_line->color());
+        m_slash->setSize(size());
+        m_slash->setVisible(false);
+    }
+    return m_slash;
+}
+
 void XLineInputText::showSlashItem()
 {
-    m_slash->setText(slashText());
+    slashItem()->setText(slashText());
     m_slash->setVisible(true);
 }
 
 void XLineInputText::hideSlashItem()
 {
+    if (!m_slash)
+        return;
     m_slash->setText(QString());
     m_slash->setVisible(false);
 }
@@ -125,7 +140,8 @@ void XLineInputText::setCursorShown(bool shown)
 void XLineInputText::applyTextColor(const QColor& color)
 {
     m_line->setColor(color);
-    m_slash->setColor(color);
+    if (m_slash)
+        m_slash->setColor(color);
 }
 
 void XLineInputText::setAlignment(int flags, int hMargin, int vMargin)

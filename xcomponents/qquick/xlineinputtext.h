@@ -47,7 +47,8 @@ public:
     Q_INVOKABLE void setFontAlignment(int flags);
 
     QQuickTextInput* textLine() const { return m_line; }
-    QQuickText* slashItem() const { return m_slash; }
+    /** The slash item, made on first use (hidden until showSlashItem). */
+    QQuickText* slashItem();
 
 protected:
     void setCursorShown(bool shown) override;

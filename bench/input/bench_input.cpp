@@ -1,0 +1,190 @@
+// Entry benchmarks on a real panel (run under Xvfb):
+//  - View_PopupVirtualKeyboard to the keyboard's frame on screen, the first
+//    opening and later ones, against opening a bare Qt Quick Controls popup
+//    holding a TextField of the same size;
+//  - a key press on the open keyboard's entry line to the typed character on
+//    screen, against a bare TextInput receiving the same key event;
+//  - creating 200 single-line fields against 200 QML TextInputs.
+#include "benchreport.h"
+#include "common/panelfixture.h"
+
+#include "app/guiapplication.h"
+#include "app/xquickview.h"
+#include "config/qmltypes.h"
+#include "views/qmlwindowmanage.h"
+#include "views/viewmanage.h"
+#include "views/virtualkeyboardmanager.h"
+
+#include <QElapsedTimer>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QSignalSpy>
+#include <QSurfaceFormat>
+#include <QTest>
+
+#include <algorithm>
+#include <list>
+#include <vector>
+
+namespace {
+
+/** Milliseconds from \a start until the next frame of \a view is on screen. */
+double toFrame(QQuickView* view, const std::function<void()>& start)
+{
+    QSignalSpy spy(view, &QQuickWindow::frameSwapped);
+    QElapsedTimer t;
+    t.start();
+    start();
+    spy.wait(3000);
+    return t.nsecsElapsed() / 1e6;
+}
+
+double median(std::vector<double> v)
+{
+    std::sort(v.begin(), v.end());
+    return v[v.size() / 2];
+}
+
+void settleFrames(QQuickView* view)
+{
+    for (int i = 0; i < 3; ++i)
+        toFrame(view, [view] { view->update(); });
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QSurfaceFormat format = QSurfaceFormat::defaultFormat();
+    format.setSwapInterval(0); // frame times, not the display's refresh
+    QSurfaceFormat::setDefaultFormat(format);
+    GuiApplication app(argc, argv);
+    registerQmlTypes();
+    PanelFixture panel;
+    if (!panel.start(QSize(1024, 600)))
+        return 1;
+    const unsigned A = PanelFixture::wid(1, 1);
+    panel.switchWindow(A, Rect { 0, 0, 1024, 600 }, 0xFFFFFFFFu);
+    QQuickView* view = panel.view();
+    QQuickItem* window = ViewManage::getInstance()->windowManage()->getWindow(A);
+    QQmlEngine* engine = ViewManage::getInstance()->getQmlEngine();
+    VirtualKeyboardManager* vkb = VirtualKeyboardManager::instance();
+    settleFrames(view);
+    // an operator's first touch on a field comes after the panel has been up for a moment (the
+    // panel prepares the hidden keyboard then)
+    QTest::qWait(1000);
+
+    // ---- opening: the first time and later
+    const double oursFirst = toFrame(view, [] { View_PopupVirtualKeyboard(1, VKB_DECIMAL, "12"); });
+    const QSizeF size(vkb->popup()->width(), vkb->popup()->height() + vkb->getVkbRect().height());
+    View_CloseVirtualKeyboard();
+    settleFrames(view);
+
+    QQmlComponent popupComponent(engine);
+    popupComponent.setData("import QtQuick 2.15\nimport QtQuick.Controls 2.15\n"
+                           "Popup { closePolicy: Popup.NoAutoClose\n"
+                           "  TextField { objectName: \"field\"; anchors.fill: parent; font.pixelSize: 40 } }\n",
+        QUrl());
+    QObject* popup = nullptr;
+    const double baseFirst = toFrame(view, [&] {
+        popup = popupComponent.create();
+        popup->setProperty("parent", QVariant::fromValue<QQuickItem*>(view->contentItem()));
+        popup->setProperty("width", size.width());
+        popup->setProperty("height", size.height());
+        QMetaObject::invokeMethod(popup, "open");
+    });
+    QMetaObject::invokeMethod(popup, "close");
+    settleFrames(view);
+    Bench::report("keyboard first opening to frame vs Controls Popup+TextField", oursFirst, baseFirst, "ms",
+        "<= 1.3");
+
+    std::vector<double> o, b;
+    for (int r = 0; r < 21; ++r) {
+        o.push_back(toFrame(view, [] { View_PopupVirtualKeyboard(1, VKB_DECIMAL, "12"); }));
+        View_CloseVirtualKeyboard();
+        settleFrames(view);
+        b.push_back(toFrame(view, [&] { QMetaObject::invokeMethod(popup, "open"); }));
+        QMetaObject::invokeMethod(popup, "close");
+        settleFrames(view);
+    }
+    Bench::report("keyboard later opening to frame vs Controls Popup+TextField", median(o), median(b), "ms",
+        "<= 1.3");
+    Bench::note("keyboard later opening to frame", median(o), "ms (goal under 16.7)");
+
+    // ---- key press to the typed character on screen
+    QQmlComponent inputComponent(engine);
+    inputComponent.setData("import QtQuick 2.15\nTextInput { font.pixelSize: 40 }\n", QUrl());
+    auto* plainInput = qobject_cast<QQuickItem*>(inputComponent.create());
+    plainInput->setParentItem(window);
+    plainInput->setSize(QSizeF(600, 72));
+    const char keys[] = "1234567890";
+    auto pressOn = [&](int i) {
+        const char c = keys[i % 10];
+        QTest::keyClick(view, c);
+    };
+    o.clear();
+    b.clear();
+    for (int r = 0; r < 31; ++r) {
+        View_PopupVirtualKeyboard(1, VKB_TEXT, "");
+        settleFrames(view);
+        o.push_back(toFrame(view, [&] { pressOn(r); }));
+        View_CloseVirtualKeyboard();
+        plainInput->setProperty("text", QString());
+        plainInput->forceActiveFocus();
+        settleFrames(view);
+        b.push_back(toFrame(view, [&] { pressOn(r); }));
+    }
+    Bench::report("key press to frame, keyboard entry line vs bare TextInput", median(o), median(b), "ms",
+        "<= 1.2");
+    delete plainInput;
+
+    // ---- 200 fields
+    constexpr int kFields = 200;
+    const Font font { nullptr, 14, 400, 0, 0, 0, 0, 0xFF202020u, QGUI_ALIGN_LEFT | QGUI_ALIGN_VCENTER };
+    unsigned nextId = 100;
+    std::list<unsigned> ids;
+    std::vector<QQuickItem*> plain;
+    auto box = [](int i) { return Rect { (i % 10) * 100, (i / 10) * 28, 96, 26 }; };
+    o.clear();
+    b.clear();
+    for (int r = 0; r < 5; ++r) {
+        QElapsedTimer t;
+        t.start();
+        for (int i = 0; i < kFields; ++i) {
+            View_Input rec {};
+            rec.rect = box(i);
+            rec.id = nextId;
+            rec.text = "123.4";
+            rec.font = &font;
+            View_CreateNumInputText(&rec, A);
+            ids.push_back(nextId++);
+        }
+        o.push_back(t.nsecsElapsed() / 1e6);
+        settleFrames(view);
+        View_DeleteWidgets(ids);
+        ids.clear();
+        PanelFixture::settle();
+        QFont qfont;
+        qfont.setPixelSize(14);
+        t.restart();
+        for (int i = 0; i < kFields; ++i) {
+            auto* in = qobject_cast<QQuickItem*>(inputComponent.create());
+            in->setParentItem(window);
+            const Rect rr = box(i);
+            in->setPosition(QPointF(rr.x, rr.y));
+            in->setSize(QSizeF(rr.width, rr.height));
+            in->setProperty("text", QString::fromUtf8("123.4"));
+            in->setProperty("font", qfont);
+            in->setProperty("color", QColor(0x20, 0x20, 0x20));
+            plain.push_back(in);
+        }
+        b.push_back(t.nsecsElapsed() / 1e6);
+        settleFrames(view);
+        qDeleteAll(plain);
+        plain.clear();
+    }
+    Bench::report("View_CreateNumInputText x200 vs QML TextInput x200", median(o), median(b), "ms", "<= 1.5");
+    delete popup;
+    return 0;
+}
