@@ -73,16 +73,7 @@ void XBaseTextInputControl::setSlashText(const QString& text)
 
 void XBaseTextInputControl::setSource(const QUrl& url)
 {
-    if (!m_image) {
-        m_image = new XQuickImage(this);
-        m_image->ensureContext(this);
-        m_image->setSize(size());
-        m_image->setVisibleSourceSize(size());
-        setBackground(m_image);
-    }
-    if (QQmlEngine* engine = qmlEngine(m_image))
-        PictureCacheManage::attach(engine);
-    m_image->setSource(url);
+    m_image = XQuickImage::showBackground(this, m_image.data(), url);
 }
 
 void XBaseTextInputControl::setImageVisible(bool visible)
@@ -99,8 +90,5 @@ XQuickImage* XBaseTextInputControl::image() const
 void XBaseTextInputControl::geometryChanged(const QRectF& newGeometry, const QRectF& oldGeometry)
 {
     XBaseControl::geometryChanged(newGeometry, oldGeometry);
-    if (m_image) {
-        m_image->setSize(newGeometry.size());
-        m_image->setVisibleSourceSize(newGeometry.size());
-    }
+    XQuickImage::fit(m_image, newGeometry.size());
 }

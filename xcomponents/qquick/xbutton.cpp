@@ -30,16 +30,7 @@ XButton::~XButton() = default;
 
 void XButton::setImage(const QUrl& url)
 {
-    if (!m_image) {
-        m_image = new XQuickImage(this);
-        m_image->ensureContext(this);
-        m_image->setSize(size());
-        m_image->setVisibleSourceSize(size());
-        setBackground(m_image);
-    }
-    if (QQmlEngine* engine = qmlEngine(m_image))
-        PictureCacheManage::attach(engine);
-    m_image->setSource(url);
+    m_image = XQuickImage::showBackground(this, m_image.data(), url);
 }
 
 void XButton::setImageVisible(bool visible)
@@ -231,10 +222,7 @@ void XButton::geometryChanged(const QRectF& newGeometry, const QRectF& oldGeomet
         return;
     if (m_text && m_text->parentItem() == this)
         m_text->setSize(newGeometry.size());
-    if (m_image) {
-        m_image->setSize(newGeometry.size());
-        m_image->setVisibleSourceSize(newGeometry.size());
-    }
+    XQuickImage::fit(m_image, newGeometry.size());
     if (m_dragArea)
         m_dragArea->setSize(newGeometry.size());
 }

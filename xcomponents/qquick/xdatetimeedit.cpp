@@ -102,16 +102,7 @@ void XDateTimeEdit::applyLineHeight()
 
 void XDateTimeEdit::setSource(const QUrl& url)
 {
-    if (!m_image) {
-        m_image = new XQuickImage(this);
-        m_image->ensureContext(this);
-        m_image->setSize(size());
-        m_image->setVisibleSourceSize(size());
-        setBackground(m_image);
-    }
-    if (QQmlEngine* engine = qmlEngine(m_image))
-        PictureCacheManage::attach(engine);
-    m_image->setSource(url);
+    m_image = XQuickImage::showBackground(this, m_image.data(), url);
 }
 
 QUrl XDateTimeEdit::source() const
@@ -164,8 +155,5 @@ void XDateTimeEdit::geometryChanged(const QRectF& newGeometry, const QRectF& old
 {
     XBaseControl::geometryChanged(newGeometry, oldGeometry);
     m_text->setSize(newGeometry.size());
-    if (m_image) {
-        m_image->setSize(newGeometry.size());
-        m_image->setVisibleSourceSize(newGeometry.size());
-    }
+    XQuickImage::fit(m_image, newGeometry.size());
 }

@@ -1,11 +1,13 @@
 #include "xcomponents/qquick/xquickimage.h"
 
+#include "xcomponents/qquick/picturecachemanage.h"
 #include "xcomponents/qquick/xbasepainteditem.h"
 #include "xcomponents/qquick/xqmlcomponentmanage.h"
 
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QQuickWindow>
+#include <QtQuickTemplates2/private/qquickcontrol_p.h>
 
 XQuickImage::XQuickImage(QQuickItem* parent)
     : QQuickImage(parent)
@@ -38,4 +40,26 @@ bool XQuickImage::ensureContext(const QObject* from)
         return false;
     QQmlEngine::setContextForObject(this, ctx);
     return true;
+}
+
+XQuickImage* XQuickImage::showBackground(QQuickControl* control, XQuickImage* image, const QUrl& url)
+{
+    if (!image) {
+        image = new XQuickImage(control);
+        image->ensureContext(control);
+        fit(image, control->size());
+        control->setBackground(image);
+    }
+    if (QQmlEngine* engine = qmlEngine(image))
+        PictureCacheManage::attach(engine);
+    image->setSource(url);
+    return image;
+}
+
+void XQuickImage::fit(XQuickImage* image, const QSizeF& size)
+{
+    if (!image)
+        return;
+    image->setSize(size);
+    image->setVisibleSourceSize(size);
 }

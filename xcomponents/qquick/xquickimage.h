@@ -3,6 +3,8 @@
 
 #include <QtQuick/private/qquickimage_p.h>
 
+class QQuickControl;
+
 /**
  * The image item of the library's widgets (the Qt Quick image item with its
  * source and sourceSize). It stretches its picture to its box by default.
@@ -23,6 +25,12 @@ public:
     /** Decodes the picture at \a size, but never larger than what can be seen (the window, see
      *  XBasePaintedItem::cappedTextureSize): a huge item is stretched from a bounded picture. */
     void setVisibleSourceSize(const QSizeF& size);
+
+    /** The picture behind \a control: \a image, or when null a new one filling the control and set
+     *  as its background; then loads \a url (through the picture cache). Returns the image. */
+    static XQuickImage* showBackground(QQuickControl* control, XQuickImage* image, const QUrl& url);
+    /** Sizes \a image (null: nothing) and its decoded picture to \a size. */
+    static void fit(XQuickImage* image, const QSizeF& size);
 };
 
 #endif // XQUICKIMAGE_H
