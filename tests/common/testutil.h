@@ -15,6 +15,10 @@ QString helperPath(const QString& subdir, const QString& name);
 bool waitForFrame(QQuickView* view, int timeoutMs = 5000);
 /** The centre of \a item in scene coordinates, rounded. */
 QPoint sceneCenter(const QQuickItem* item);
+/** The first visible item named \a name under \a root (\a root included), searched through the
+ *  item tree so that delegates are found; hidden ones (a replaced layout's, not yet deleted) are
+ *  skipped. */
+QQuickItem* findItem(QQuickItem* root, const QString& name);
 
 } // namespace TestUtil
 

@@ -16,22 +16,9 @@
 
 namespace {
 
-enum class Device { Mouse, Touch };
+using TestUtil::findItem;
 
-QQuickItem* findItem(QQuickItem* root, const QString& name)
-{
-    if (!root)
-        return nullptr;
-    // Delegates of a replaced layout linger hidden until they are deleted.
-    if (root->objectName() == name && root->isVisible())
-        return root;
-    const auto children = root->childItems();
-    for (QQuickItem* child : children) {
-        if (QQuickItem* found = findItem(child, name))
-            return found;
-    }
-    return nullptr;
-}
+enum class Device { Mouse, Touch };
 
 void collectKeys(QQuickItem* root, QList<QQuickItem*>* keys)
 {

@@ -81,24 +81,9 @@ void tst_Keyboard::cleanup()
     m_panel.stop();
 }
 
-/** The visible item named \a name under \a root (delegates are found through the item tree). */
-static QQuickItem* findItem(QQuickItem* root, const QString& name)
-{
-    if (!root)
-        return nullptr;
-    if (root->objectName() == name && root->isVisible())
-        return root;
-    const auto children = root->childItems();
-    for (QQuickItem* child : children) {
-        if (QQuickItem* found = findItem(child, name))
-            return found;
-    }
-    return nullptr;
-}
-
 QQuickItem* tst_Keyboard::key(const QString& name) const
 {
-    return findItem(vkb()->keyboardItem(), QStringLiteral("key_") + name);
+    return TestUtil::findItem(vkb()->keyboardItem(), QStringLiteral("key_") + name);
 }
 
 void tst_Keyboard::pressKey(const QString& name)
