@@ -340,6 +340,11 @@ void tst_Inputs::presses_are_reported()
     QCOMPARE(releases.size(), 1);
     QCOMPARE(presses.first().id, 70u);
     QCOMPARE(releases.first().id, 70u);
+    // a field only shows its value: keys never edit it, even when something gives it focus
+    item(70)->forceActiveFocus();
+    QTest::keyClick(m_panel.view(), Qt::Key_X);
+    QTest::keyClick(m_panel.view(), Qt::Key_Backspace);
+    QCOMPARE(qobject_cast<XBaseTextInputControl*>(item(70))->text(), QString("press me"));
 }
 
 void tst_Inputs::bad_input_is_shown_safely_data()

@@ -45,7 +45,8 @@ XLineInputText::XLineInputText(QQuickItem* parent)
     m_line->setAcceptedMouseButtons(Qt::NoButton);
     m_line->setAcceptTouchEvents(false);
     m_line->setFocusOnPress(false);
-    m_line->setReadOnly(true);
+    // not read-only: that switch asks the system clipboard whether pasting is possible, a round
+    // trip to the display server for every field; the line never takes focus, so no key reaches it
     m_line->setPersistentSelection(true); // a selection shows without focus
     m_line->setSelectByMouse(false);
     m_line->setSelectionColor(GlobalConfig::getInstance()->selectionColor());

@@ -12,7 +12,8 @@ XQuickTextEdit::XQuickTextEdit(QQuickItem* parent)
     setAcceptedMouseButtons(Qt::NoButton);
     setAcceptTouchEvents(false);
     setFocusOnPress(false);
-    setReadOnly(true);
+    // not read-only: that switch asks the system clipboard whether pasting is possible, a round
+    // trip to the display server for every field; the text never takes focus, so no key reaches it
     setSelectByMouse(false);
     setPersistentSelection(true); // a selection shows without focus
     setWrapMode(QQuickTextEdit::Wrap);
