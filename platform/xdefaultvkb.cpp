@@ -128,6 +128,11 @@ int XDefaultVkb::layoutType() const
     return m_layoutType;
 }
 
+QString XDefaultVkb::glyphs() const
+{
+    return m_item ? m_item->property("glyphs").toString() : QString();
+}
+
 QPointF XDefaultVkb::bounded(const QPointF& pos) const
 {
     const QQuickItem* parent = m_item ? m_item->parentItem() : nullptr;

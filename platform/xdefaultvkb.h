@@ -46,6 +46,8 @@ public:
     bool isDragBarVisible() const override;
     void setLayoutType(int type) override;
     int layoutType() const override;
+    /** The labels of every layout and page, from the keyboard item; empty before createItem. */
+    QString glyphs() const override;
 
     /** The object that sends the keyboard's keys; owned by the keyboard. */
     XVkbKeyEmitter* emitter() const { return m_emitter.get(); }

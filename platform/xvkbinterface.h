@@ -38,9 +38,15 @@ public:
     virtual bool isDragBarVisible() const = 0;
     virtual void setLayoutType(int type) = 0;
     virtual int layoutType() const = 0;
+    /**
+     * Every character the keyboard's keys can show, on all its layouts and pages. The panel
+     * draws them once, unseen, before the first opening, so that no glyph has to be made while
+     * the operator waits. Empty when the keyboard does not say.
+     */
+    virtual QString glyphs() const { return QString(); }
 };
 
-#define XVkbInterface_iid "org.qgui.XVkbInterface/1.0"
+#define XVkbInterface_iid "org.qgui.XVkbInterface/1.1"
 Q_DECLARE_INTERFACE(XVkbInterface, XVkbInterface_iid)
 
 #endif // XVKBINTERFACE_H

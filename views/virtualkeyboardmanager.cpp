@@ -9,12 +9,14 @@
 
 #include <QDateTime>
 #include <QDoubleValidator>
+#include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QRegularExpressionValidator>
 
 #include <limits>
+#include <memory>
 
 namespace {
 
@@ -159,8 +161,10 @@ void VirtualKeyboardManager::init(QQuickItem* root)
 
 void VirtualKeyboardManager::warmUp(QQuickWindow* window)
 {
-    // One frame with the line and the keys drawn almost transparent, so that their scene-graph
-    // nodes, textures and glyphs exist before the operator's first touch on a field.
+    // Two frames with the line and the keys drawn almost transparent, so that their scene-graph
+    // nodes, textures and glyphs exist before the operator's first touch on a field. The second
+    // frame adds glyphs, so that the glyph texture has grown once: its first growth prepares the
+    // copy it needs, which alone costs a frame of about 100 ms without a graphics processor.
     if (!window || !window->isVisible() || m_shown)
         return;
     m_warming = true;
@@ -168,12 +172,64 @@ void VirtualKeyboardManager::warmUp(QQuickWindow* window)
     m_layer->setEnabled(false); // takes no press while nearly invisible
     vkb()->show();
     m_popup->setVisible(true);
+    showGlyphSample(false);
     auto* done = new QMetaObject::Connection;
-    *done = connect(window, &QQuickWindow::frameSwapped, this, [this, done] {
+    auto frames = std::make_shared<int>(0);
+    *done = connect(window, &QQuickWindow::frameSwapped, this, [this, done, frames, window] {
+        if (++*frames == 1 && m_warming) {
+            showGlyphSample(true);
+            window->update();
+            return;
+        }
         disconnect(*done);
         delete done;
         endWarmUp();
     }, Qt::QueuedConnection);
+}
+
+void VirtualKeyboardManager::showGlyphSample(bool latinSupplement)
+{
+    // The glyphs of the other layouts and of what an operator types, then those of the accented
+    // Latin letters: a glyph drawn for the first time is made and stored in the text's glyph
+    // texture on the frame that shows it.
+    QString glyphs = vkb()->glyphs();
+    for (char16_t c = 0x20; c < 0x7F; ++c)
+        glyphs += QChar(c);
+    if (latinSupplement) {
+        for (char16_t c = 0xA1; c <= 0xFF; ++c)
+            glyphs += QChar(c);
+    }
+    if (m_input) {
+        // the entry line's text, then its range hint, which is a text item of its own
+        m_input->setProperty("text", latinSupplement ? QString() : glyphs);
+        // shown selected, as an opening shows its text, though the line has no focus yet
+        m_input->setProperty("persistentSelection", !latinSupplement);
+        if (!latinSupplement)
+            QMetaObject::invokeMethod(m_input, "selectAll");
+        if (latinSupplement) {
+            m_placeholder = m_input->property("placeholderText").toString();
+            m_input->setProperty("placeholderText", glyphs);
+        }
+    }
+    if (m_glyphSample) {
+        m_glyphSample->setProperty("glyphs", glyphs);
+        return;
+    }
+    QQmlEngine* engine = qmlEngine(m_popup);
+    if (!engine)
+        return;
+    QQmlComponent component(engine);
+    component.setData("import QtQuick 2.15\n"
+                      "Column { property string glyphs\n"
+                      "  Text { text: parent.glyphs; font.pixelSize: 26 }\n"
+                      "  Text { text: parent.glyphs; font.pixelSize: 40 } }\n",
+        QUrl());
+    auto* sample = qobject_cast<QQuickItem*>(component.create());
+    if (!sample)
+        return;
+    sample->setProperty("glyphs", glyphs);
+    sample->setParentItem(m_layer);
+    m_glyphSample = sample;
 }
 
 void VirtualKeyboardManager::endWarmUp()
@@ -181,6 +237,12 @@ void VirtualKeyboardManager::endWarmUp()
     if (!m_warming)
         return;
     m_warming = false;
+    delete m_glyphSample.data();
+    if (m_input && !m_shown)
+        m_input->setProperty("text", QString());
+    if (m_input && m_placeholder)
+        m_input->setProperty("placeholderText", *m_placeholder);
+    m_placeholder.reset();
     if (m_layer) {
         m_layer->setOpacity(1.0);
         m_layer->setEnabled(true);
@@ -421,6 +483,7 @@ void VirtualKeyboardManager::setDisplayRange(bool show, const QString& min, cons
 {
     if (!m_input)
         return;
+    m_placeholder.reset(); // a warm-up ending later keeps this one
     m_input->setProperty("placeholderText",
         show ? QStringLiteral("[ ") + min + QStringLiteral(" , ") + max + QStringLiteral(" ]") : QString());
 }

@@ -8,6 +8,8 @@
 #include <QString>
 #include <QValidator>
 
+#include <optional>
+
 class QQuickWindow;
 
 #include <qgui/records_input.h>
@@ -109,6 +111,7 @@ private:
     XVkbInterface* vkb() const;
     void placePopup();
     void warmUp(QQuickWindow* window);
+    void showGlyphSample(bool latinSupplement);
     void endWarmUp();
     void installValidator(QValidator* validator);
     void onActiveTextDestroyed();
@@ -118,6 +121,8 @@ private:
     QPointer<QQuickItem> m_popup;
     QPointer<QQuickItem> m_input;
     QPointer<QQuickItem> m_lightCover; // over the keyboard
+    QPointer<QQuickItem> m_glyphSample; // every character the keys and the line show, while warming up
+    std::optional<QString> m_placeholder; // the range hint, kept while warming up
     QPointer<QValidator> m_validator;
     QPointer<QObject> m_activeText;
     QMetaObject::Connection m_activeConnection;

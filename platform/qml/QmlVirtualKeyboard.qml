@@ -29,6 +29,8 @@ Rectangle {
     readonly property real gap: 6
 
     readonly property var rows: layoutRows(layoutType, symbolPage)
+    // Every character a key can show, on all layouts and pages (capitals and Caps Lock included).
+    readonly property string glyphs: allGlyphs()
 
     width: keyArea.width + 2 * gap
     height: keyArea.y + keyArea.height + gap
@@ -97,6 +99,31 @@ Rectangle {
                 chars("asdfghjkl"),
                 [shift(1.5)].concat(chars("zxcvbnm"), [backspace(1.5)]),
                 [page("?123", 1.5), ch(","), space(5), ch("."), enter(1.5)]]
+    }
+
+    function allGlyphs() {
+        var seen = {}
+        var out = "\u21ea"
+        function take(s) {
+            for (var i = 0; i < s.length; ++i) {
+                if (!seen[s[i]]) {
+                    seen[s[i]] = true
+                    out += s[i]
+                }
+            }
+        }
+        for (var type = 0; type <= 5; ++type) {
+            for (var p = 0; p < 2; ++p) {
+                layoutRows(type, p === 1).forEach(function (row) {
+                    row.forEach(function (k) {
+                        var t = k.label !== undefined ? k.label : k.text
+                        take(t)
+                        take(t.toUpperCase())
+                    })
+                })
+            }
+        }
+        return out
     }
 
     function isLetter(t) { return t.length === 1 && t.toUpperCase() !== t.toLowerCase() }

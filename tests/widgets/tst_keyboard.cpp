@@ -15,6 +15,7 @@
 #include "views/qmlwindowmanage.h"
 #include "views/viewmanage.h"
 #include "views/virtualkeyboardmanager.h"
+#include <QSet>
 #include "xcomponents/qquick/integrali64validator.h"
 #include "xcomponents/qquick/integralu64validator.h"
 #include "xcomponents/qquick/keyboardwindowtitile.h"
@@ -49,6 +50,7 @@ private Q_SLOTS:
     void anchor_rule_moves_the_panel_data();
     void anchor_rule_moves_the_panel();
     void keyboard_stays_usable_on_a_dimmed_panel();
+    void preparation_leaves_no_trace();
     void active_text_object_receives_the_text_and_is_forgotten();
     void requester_deleted_while_open_still_gets_its_events();
     void keyboard_window_calls();
@@ -413,6 +415,37 @@ void tst_Keyboard::keyboard_stays_usable_on_a_dimmed_panel()
     const QColor bright = m_panel.view()->grabWindow().pixelColor(at);
     QVERIFY2(dimmed.lightness() < bright.lightness() || bright.lightness() < 40,
         qPrintable(QString("%1 vs %2").arg(dimmed.name(), bright.name())));
+}
+
+void tst_Keyboard::preparation_leaves_no_trace()
+{
+    // the panel draws the keys, the line and every glyph they can show once, unseen, soon after
+    // the desktop is made; afterwards everything is as if it never happened
+    QTRY_VERIFY(vkb()->isInitialised());
+    QQuickItem* layer = vkb()->popup()->parentItem();
+    QVERIFY(layer);
+    QTRY_COMPARE(layer->childItems().size(), 2); // the keys and the line, no glyph sample left
+    QCOMPARE(layer->opacity(), 1.0);
+    QVERIFY(layer->isEnabled());
+    QVERIFY(!vkb()->popup()->isVisible());
+    QVERIFY(!vkb()->keyboardItem()->isVisible());
+    QQuickItem* line = vkb()->inputLine();
+    QCOMPARE(lineText(), QString());
+    QCOMPARE(line->property("placeholderText").toString(), QString());
+    QCOMPARE(line->property("persistentSelection").toBool(), false);
+    // the keys say which glyphs they show: every label of every layout and page
+    const QString glyphs = vkb()->keyboardItem()->property("glyphs").toString();
+    for (const QString& c : { "7", "A", "q", "Q", "\u232b", "\u21ea", "~", "?", "E" })
+        QVERIFY2(glyphs.contains(c), qPrintable(c));
+    QCOMPARE(QSet<QChar>(glyphs.begin(), glyphs.end()).size(), glyphs.size()); // each once
+
+    // and an opening right after shows only its own text and range
+    QCOMPARE(View_PopupVirtualKeyboard(12, 0, "7"), 0);
+    QCOMPARE(View_SetVirtualKeyboardValidator(VALIDATOR_INT16), 0);
+    QCOMPARE(View_SetVirtualKeyboardRangeI(-5, 9), 0);
+    QVERIFY(TestUtil::waitForFrame(m_panel.view()));
+    QCOMPARE(lineText(), QString("7"));
+    QCOMPARE(line->property("placeholderText").toString(), QString("[ -5 , 9 ]"));
 }
 
 void tst_Keyboard::active_text_object_receives_the_text_and_is_forgotten()
