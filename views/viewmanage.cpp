@@ -1,5 +1,6 @@
 #include "views/viewmanage.h"
 
+#include "config/globalconfig.h"
 #include "platform/guiqtadaptcore.h"
 #include "views/curvesamplecharttimemodecontroller.h"
 #include "views/lifecyclemanager.h"
@@ -12,6 +13,7 @@
 #include "xcomponents/qquick/xinvalidfeature.h"
 #include "xcomponents/qquick/xqmlcomponentmanage.h"
 
+#include <QQmlEngine>
 #include <QQuickItem>
 
 namespace {
@@ -45,6 +47,11 @@ ViewManage::ViewManage()
     connect(m_windowManage.get(), &QmlWindowManage::lightChanged, keyboard, &VirtualKeyboardManager::setLight);
     m_windowManage->pressWatcher()->setPassThrough(
         [keyboard](const QPointF& pos) { return keyboard->containsScenePoint(pos); });
+    // a language change shows at once on everything open (buttons and titles of the dialogs)
+    connect(GlobalConfig::getInstance(), &GlobalConfig::langTokenChanged, this, [this] {
+        if (QQmlEngine* engine = getQmlEngine())
+            engine->retranslate();
+    });
 }
 
 ViewManage::~ViewManage()

@@ -8,6 +8,7 @@
 #include "common/testutil.h"
 
 #include "app/xquickview.h"
+#include "config/globalconfig.h"
 #include "platform/xoverlay.h"
 #include "platform/xpopup.h"
 #include "views/qmlwindowmanage.h"
@@ -42,6 +43,7 @@ private Q_SLOTS:
     void unknown_id_or_other_kind_opens_nothing();
     void grey_and_slash_states_through_the_registry();
     void picker_and_field_are_visible_on_screen();
+    void buttons_follow_the_language();
     void start_end_confirm_gives_the_switched_on_ends_data();
     void start_end_confirm_gives_the_switched_on_ends();
 
@@ -396,6 +398,24 @@ void tst_DateTime::picker_and_field_are_visible_on_screen()
     QCOMPARE(day, QColor("#537bad"));
     const QColor other(shot.pixel(m_panel.scenePoint(item(popup(), "day_2024_2_28"), QPointF(4, 4))));
     QVERIFY(other != QColor("#537bad"));
+}
+
+void tst_DateTime::buttons_follow_the_language()
+{
+    auto buttonTexts = [this] {
+        QQuickItem* cancel = item(popup(), "cancelButton");
+        QQuickItem* ok = item(popup(), "okButton");
+        return cancel && ok ? cancel->property("text").toString() + QLatin1Char('|')
+                + ok->property("contentItem").value<QQuickItem*>()->property("text").toString()
+                            : QString();
+    };
+    QCOMPARE(create(42, "2024-01-01 00:00:00"), 0);
+    QCOMPARE(View_PopupDateTimeDialog(42, "2024-01-01 00:00:00"), 0);
+    QCOMPARE(buttonTexts(), QString("Cancel|Confirm"));
+    GlobalConfig::getInstance()->setLocale(0); // while it is open
+    QCOMPARE(buttonTexts(), QString::fromUtf8("取消|确认"));
+    GlobalConfig::getInstance()->setLocale(1);
+    QCOMPARE(buttonTexts(), QString("Cancel|Confirm"));
 }
 
 void tst_DateTime::start_end_confirm_gives_the_switched_on_ends_data()

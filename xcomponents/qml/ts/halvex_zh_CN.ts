@@ -9,6 +9,40 @@
     </message>
 </context>
 <context>
+    <name>StartEndDateTimePopup</name>
+    <message>
+        <source>Setting</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Start DateTime</source>
+        <translation>开始时间</translation>
+    </message>
+    <message>
+        <source>End DateTime</source>
+        <translation>结束时间</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>确认</translation>
+    </message>
+</context>
+<context>
+    <name>XDateTimeSet</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>确认</translation>
+    </message>
+</context>
+<context>
     <name>XInvalidFeature</name>
     <message>
         <source>not available</source>
