@@ -173,16 +173,16 @@ void VirtualKeyboardManager::warmUp(QQuickWindow* window)
     vkb()->show();
     m_popup->setVisible(true);
     showGlyphSample(false);
-    auto* done = new QMetaObject::Connection;
+    // queued: several swaps may already be queued when the connection goes
+    auto connection = std::make_shared<QMetaObject::Connection>();
     auto frames = std::make_shared<int>(0);
-    *done = connect(window, &QQuickWindow::frameSwapped, this, [this, done, frames, window] {
+    *connection = connect(window, &QQuickWindow::frameSwapped, this, [this, connection, frames, window] {
         if (++*frames == 1 && m_warming) {
             showGlyphSample(true);
             window->update();
             return;
         }
-        disconnect(*done);
-        delete done;
+        disconnect(*connection);
         endWarmUp();
     }, Qt::QueuedConnection);
 }
@@ -554,16 +554,28 @@ void VirtualKeyboardManager::updateGuiRect(int anchor)
     if (!m_root)
         return;
     if (!m_shown) {
-        m_root->setY(m_baseY);
+        shiftPanel(0);
         return;
     }
     const QRectF keys = getVkbRect();
     if (anchor < 40)
-        m_root->setY(m_baseY + 40);
+        shiftPanel(40);
     else if (anchor >= keys.top())
-        m_root->setY(m_baseY - keys.height());
+        shiftPanel(-keys.height());
     else
-        m_root->setY(m_baseY);
+        shiftPanel(0);
+}
+
+void VirtualKeyboardManager::shiftPanel(qreal dy)
+{
+    // A shell that centres its panel says how far the keyboard moves it, so the centring still
+    // follows a resized or rotated window while the keyboard is open; otherwise the panel's
+    // place is set.
+    static const char shiftName[] = "keyboardShift";
+    if (m_root->metaObject()->indexOfProperty(shiftName) >= 0)
+        m_root->setProperty(shiftName, dy);
+    else
+        m_root->setY(m_baseY + dy);
 }
 
 bool VirtualKeyboardManager::containsScenePoint(const QPointF& scenePos) const

@@ -82,7 +82,11 @@ public:
     /** \a object receives the next confirmed text; forgotten when destroyed (the keyboard hides). */
     void setActiveText(QObject* object);
     QObject* activeText() const { return m_activeText; }
-    /** Moves the panel vertically so that a field at \a anchor stays visible (see the README). */
+    /**
+     * Moves the panel vertically so that a field at \a anchor stays visible (see the README).
+     * With a shell whose panel has a "keyboardShift" property, that property carries the move
+     * and the shell keeps placing the panel (centred in a resized or rotated window).
+     */
     void updateGuiRect(int anchor);
 
     /** The entry line and its popup; null before init. */
@@ -112,6 +116,7 @@ private:
     void placePopup();
     void warmUp(QQuickWindow* window);
     void showGlyphSample(bool latinSupplement);
+    void shiftPanel(qreal dy);
     void endWarmUp();
     void installValidator(QValidator* validator);
     void onActiveTextDestroyed();

@@ -391,9 +391,15 @@ void tst_Keyboard::anchor_rule_moves_the_panel()
     // a second request while open keeps the first anchor
     vkb()->popupVirtualKeyBord(VKB_DECIMAL, nullptr, "2", 39);
     QCOMPARE(vkb()->anchor(), anchor);
+    // the window grows while the keyboard is open: the panel stays centred, moved as before
+    const QSize size = m_panel.view()->size();
+    m_panel.view()->resize(size + QSize(0, 100));
+    QTRY_COMPARE(root->y(), expected + 50);
     vkb()->hideVkb();
-    QCOMPARE(root->y(), base);
+    QCOMPARE(root->y(), base + 50);
     QCOMPARE(vkb()->anchor(), 0);
+    m_panel.view()->resize(size);
+    QTRY_COMPARE(root->y(), base);
 }
 
 void tst_Keyboard::keyboard_stays_usable_on_a_dimmed_panel()

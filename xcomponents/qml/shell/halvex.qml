@@ -37,10 +37,12 @@ GuiShell {
             id: guiRect
             objectName: "guirect"
             property bool guirect: true
+            // how far the on-screen keyboard moves the panel to keep the field in view
+            property real keyboardShift: 0
             width: 1024
             height: 600
             x: (flick.contentWidth - width) / 2
-            y: (flick.contentHeight - height) / 2
+            y: (flick.contentHeight - height) / 2 + keyboardShift
             transformOrigin: Item.Center
             clip: true
             rotation: shell.windowRotation
