@@ -5,6 +5,11 @@
 #include "app/guishell.h"
 #include "platform/xoverlay.h"
 #include "platform/xpopup.h"
+#include "xcomponents/qquick/xcommontableview.h"
+#include "xcomponents/qquick/xquicktableview.h"
+#include "xcomponents/qquick/xtableheader.h"
+#include "xcomponents/qquick/xtablemodel.h"
+#include "xcomponents/qquick/xtableviewcontrol.h"
 #include "xcomponents/qquick/lighterpopup.h"
 #include "xcomponents/qquick/monotext.h"
 #include "xcomponents/qquick/xbasecontrol.h"
@@ -73,4 +78,11 @@ void registerQmlTypes()
     // Date and time: the clock field and the picker's tumbler columns
     qmlRegisterType<XDateTimeEdit>(uri, 1, 0, "XDateTimeEdit");
     qmlRegisterType<XTumblerTimeModel>(uri, 1, 0, "XTumblerTimeModel");
+
+    // Tables
+    qmlRegisterType<XTableViewControl>(uri, 1, 0, "XTableViewControl");
+    qmlRegisterType<XQuickTableView>(uri, 1, 0, "XQuickTableView");
+    qmlRegisterType<XCommonTableView>(uri, 1, 0, "XCommonTableView");
+    qmlRegisterType<XTableHeader>(uri, 1, 0, "XTableHeader");
+    qmlRegisterType<XTableModel>(uri, 1, 0, "XTableModel");
 }

@@ -1,114 +1,281 @@
-// List controls (tables): not built yet. Every call is accepted and changes nothing: the
-// creators create nothing and return -1 (as for an unknown window); the other
-// calls return what they return for an unknown id.
+// List controls: every list kind is one table control set up from its record.
+// The logic layer keeps the data and sends pages; the control reports presses
+// with the cell, scrolling, and (in edit mode) the edited cells.
 #include "views/viewmanage.h"
 
-int ViewManage::View_AddListCtrlContent(unsigned int, const std::vector<std::string>&, int)
+#include "platform/guiqtadaptcore.h"
+#include "views/lifecyclemanager.h"
+#include "xcomponents/qquick/picturecachemanage.h"
+#include "xcomponents/qquick/xcommontableview.h"
+#include "xcomponents/qquick/xqmlcomponentmanage.h"
+#include "xcomponents/qquick/xtableviewcontrol.h"
+
+#include <QQmlEngine>
+
+using GuiQtAdapt::Core;
+
+namespace {
+
+/** Columns and rows beyond these are dropped: a runaway record never stalls the panel. */
+constexpr U32 kMaxColumns = 1024;
+constexpr size_t kMaxRows = 100000;
+
+XTableViewControl::Setup toSetup(const View_List& rec, bool forceSingleLine)
 {
-    return -1;
+    XTableViewControl::Setup s;
+    const U32 n = rec.columns ? qMin(rec.columnCount, kMaxColumns) : 0;
+    s.columns.reserve(int(n));
+    for (U32 i = 0; i < n; ++i) {
+        const View_ListColumn& in = rec.columns[i];
+        XTableViewControl::Column c;
+        c.title = Core::cutText(Core::fromUtf8(in.title), Core::kMaxShownText);
+        c.width = in.width;
+        c.align = in.align ? Core::toQAlignment(in.align) : Qt::AlignCenter;
+        if (!(c.align & Qt::AlignHorizontal_Mask))
+            c.align |= Qt::AlignHCenter;
+        if (!(c.align & Qt::AlignVertical_Mask))
+            c.align |= Qt::AlignVCenter;
+        c.dataType = in.dataType;
+        if (in.font) {
+            c.font = Core::toQFont(in.font);
+            c.color = Core::toQColor(in.font->color);
+            c.hasFont = true;
+        }
+        c.hidden = in.hidden != 0;
+        c.editable = in.editable != 0;
+        s.columns.append(c);
+    }
+    s.hideHeader = rec.flags & LIST_HIDE_HEADER;
+    s.filter = rec.flags & LIST_ENABLE_FILTER;
+    s.singleLine = forceSingleLine || (rec.flags & LIST_SINGLE_LINE);
+    s.selectRow = rec.flags & LIST_SELECT_ROW;
+    s.headerHeight = rec.headerHeight;
+    s.rowHeight = rec.rowHeight;
+    s.headerFont = Core::toQFont(rec.headerFont);
+    if (rec.headerFont)
+        s.headerTextColor = Core::toQColor(rec.headerFont->color);
+    s.contentFont = Core::toQFont(rec.contentFont);
+    if (rec.contentFont)
+        s.contentColor = Core::toQColor(rec.contentFont->color);
+    if (rec.headerColor)
+        s.headerColor = Core::toQColor(rec.headerColor);
+    if (rec.backColor)
+        s.backColor = Core::toQColor(rec.backColor);
+    s.altBackColor = rec.altBackColor ? Core::toQColor(rec.altBackColor) : s.backColor;
+    if (rec.highlightColor)
+        s.highlightColor = Core::toQColor(rec.highlightColor);
+    const QPen grid = Core::toQPen(rec.gridPen);
+    if (rec.gridPen.color) {
+        s.gridColor = grid.color();
+        s.gridWidth = qBound(0, int(grid.widthF()), 16);
+    }
+    const QPen border = Core::toQPen(rec.border);
+    s.borderColor = border.color();
+    s.borderWidth = rec.border.color ? qBound(0, int(border.widthF()), 16) : 0;
+    return s;
 }
 
-int ViewManage::View_ChangeListCtrlBrowseBoxParams(unsigned int, unsigned int*)
+XTableViewControl* tableOf(QQuickItem* item)
 {
-    return -1;
+    return qobject_cast<XTableViewControl*>(item);
 }
 
-int ViewManage::View_ChangeListCtrlContent(unsigned int, const std::vector<std::vector<View_ListColData>>&)
+} // namespace
+
+int ViewManage::createTable(const View_List* rec, unsigned int windowId, bool singleLine)
 {
-    return -1;
+    QQuickItem* window = creationParent(rec, windowId);
+    if (!window)
+        return -1;
+    auto* table = new XTableViewControl(window);
+    const QRect r = Core::toQRect(rec->rect);
+    table->setSize(r.size()); // the columns are laid out once, at their final width
+    if (!table->initialze(toSetup(*rec, singleLine), XQmlComponentManage::getInstance()->engine())) {
+        delete table;
+        return -1;
+    }
+    placeWidget(table, rec, windowId);
+    return 0;
 }
 
-int ViewManage::View_ChangeListCtrlEditMode(unsigned int, int)
+int ViewManage::View_CreateListCtrl(const View_List* rec, unsigned int windowId)
 {
-    return -1;
+    return createTable(rec, windowId, false);
 }
 
-int ViewManage::View_ChangeListCtrlEnableEditCol(unsigned int, int, bool)
+int ViewManage::View_CreateListAlarm(const View_listAlarm* rec, unsigned int windowId)
 {
-    return -1;
+    return createTable(rec ? &rec->list : nullptr, windowId, false);
 }
 
-int ViewManage::View_ChangeListCtrlEnableFilter(unsigned int, bool)
+int ViewManage::View_CreateListAlarmStat(const View_listAlarmStat* rec, unsigned int windowId)
 {
-    return -1;
+    return createTable(rec ? &rec->list : nullptr, windowId, false);
 }
 
-int ViewManage::View_ChangeListCtrlFont(unsigned int, const std::vector<Font*>&)
+int ViewManage::View_CreateListComErr(const View_listComErr* rec, unsigned int windowId)
 {
-    return -1;
+    return createTable(rec ? &rec->list : nullptr, windowId, false);
+}
+
+int ViewManage::View_CreateListDbView(const View_listDbView* rec, unsigned int windowId)
+{
+    return createTable(rec ? &rec->list : nullptr, windowId, true); // cells always on one line
+}
+
+int ViewManage::View_CreateListEvent(const View_listEvent* rec, unsigned int windowId)
+{
+    return createTable(rec ? &rec->list : nullptr, windowId, false);
+}
+
+int ViewManage::View_CreateListPermission(const View_listPermission* rec, unsigned int windowId)
+{
+    return createTable(rec ? &rec->list : nullptr, windowId, false);
+}
+
+int ViewManage::View_CreateListRecipe(const View_listRecipe* rec, unsigned int windowId)
+{
+    return createTable(rec ? &rec->list : nullptr, windowId, false);
+}
+
+int ViewManage::View_CreateListSample(const View_listSample* rec, unsigned int windowId)
+{
+    return createTable(rec ? &rec->list : nullptr, windowId, false);
+}
+
+int ViewManage::View_ChangeListCtrlTitle(unsigned int id, const std::vector<View_Text>& titles)
+{
+    XTableViewControl* table = tableOf(m_lifeCycle->findItemMaybeVisible(id));
+    if (!table)
+        return -1;
+    QStringList texts;
+    for (size_t i = 0; i < titles.size() && i < kMaxColumns; ++i)
+        texts << Core::cutText(Core::fromUtf8(titles[i].text), Core::kMaxShownText);
+    table->updateHeader(texts);
+    return 0;
+}
+
+int ViewManage::View_ChangeListCtrlContent(unsigned int id, const std::vector<std::vector<View_ListColData>>& rows)
+{
+    XTableViewControl* table = tableOf(m_lifeCycle->findItemMaybeVisible(id));
+    if (!table)
+        return -1;
+    const int columns = table->columnCount();
+    QVector<QVector<XTableCell>> page;
+    page.reserve(int(qMin(rows.size(), kMaxRows)));
+    PictureCacheManage* pictures = PictureCacheManage::getInstance();
+    for (size_t r = 0; r < rows.size() && r < kMaxRows; ++r) {
+        const std::vector<View_ListColData>& in = rows[r];
+        QVector<XTableCell> row;
+        const int n = int(qMin(in.size(), size_t(columns)));
+        row.reserve(n);
+        for (int c = 0; c < n; ++c) {
+            const View_ListColData& d = in[size_t(c)];
+            XTableCell cell;
+            cell.text = Core::cutText(Core::fromUtf8(d.text), Core::kMaxShownText);
+            if (d.image && *d.image) {
+                const QUrl url = pictures->getUrl(Core::fromString(d.image));
+                if (url.isValid())
+                    cell.image = url.toString();
+            }
+            if (d.font) {
+                cell.font = Core::toQFont(d.font);
+                cell.hasFont = true;
+                if (!d.textColor)
+                    cell.textColor = Core::toQColor(d.font->color);
+            }
+            if (d.textColor)
+                cell.textColor = Core::toQColor(d.textColor);
+            if (d.backColor)
+                cell.backColor = Core::toQColor(d.backColor);
+            row.append(std::move(cell));
+        }
+        page.append(std::move(row));
+    }
+    table->updateData(page);
+    return 0;
+}
+
+int ViewManage::View_ChangeListCtrlFont(unsigned int id, const std::vector<Font*>& fonts)
+{
+    XTableViewControl* table = tableOf(m_lifeCycle->findItemMaybeVisible(id));
+    if (!table)
+        return -1;
+    QVector<QPair<QFont, QColor>> list;
+    for (size_t i = 0; i < fonts.size() && i < kMaxColumns; ++i) {
+        const Font* f = fonts[i];
+        list.append(qMakePair(Core::toQFont(f), f ? Core::toQColor(f->color) : QColor(Qt::black)));
+    }
+    table->changeListCtrlFont(list);
+    return 0;
 }
 
 int ViewManage::View_ChangeListCtrlFontColor(unsigned int, int, const Brush&)
 {
-    return -1;
+    return -1; // not supported: the fonts carry the colours
 }
 
-int ViewManage::View_ChangeListCtrlHideCol(unsigned int, const std::list<std::pair<int, bool>>&)
+int ViewManage::View_AddListCtrlContent(unsigned int, const std::vector<std::string>&, int)
 {
-    return -1;
-}
-
-int ViewManage::View_ChangeListCtrlRowTextVisible(unsigned int, const std::list<int>&, bool)
-{
-    return -1;
-}
-
-int ViewManage::View_ChangeListCtrlSel(unsigned int, int, int)
-{
-    return 0;
-}
-
-int ViewManage::View_ChangeListCtrlTitle(unsigned int, const std::vector<View_Text>&)
-{
-    return -1;
-}
-
-int ViewManage::View_CreateListAlarm(const View_listAlarm*, unsigned int)
-{
-    return -1;
-}
-
-int ViewManage::View_CreateListAlarmStat(const View_listAlarmStat*, unsigned int)
-{
-    return -1;
-}
-
-int ViewManage::View_CreateListComErr(const View_listComErr*, unsigned int)
-{
-    return -1;
-}
-
-int ViewManage::View_CreateListCtrl(const View_List*, unsigned int)
-{
-    return -1;
-}
-
-int ViewManage::View_CreateListDbView(const View_listDbView*, unsigned int)
-{
-    return -1;
-}
-
-int ViewManage::View_CreateListEvent(const View_listEvent*, unsigned int)
-{
-    return -1;
-}
-
-int ViewManage::View_CreateListPermission(const View_listPermission*, unsigned int)
-{
-    return -1;
-}
-
-int ViewManage::View_CreateListRecipe(const View_listRecipe*, unsigned int)
-{
-    return -1;
-}
-
-int ViewManage::View_CreateListSample(const View_listSample*, unsigned int)
-{
-    return -1;
+    return -1; // not supported: pages are replaced whole
 }
 
 int ViewManage::View_GetListCtrlContent(unsigned int, int, int, std::vector<std::string>&)
 {
-    return -1;
+    return -1; // not supported: the logic layer keeps the data
+}
+
+int ViewManage::View_ChangeListCtrlHideCol(unsigned int id, const std::list<std::pair<int, bool>>& columns)
+{
+    XTableViewControl* table = tableOf(m_lifeCycle->findItemMaybeVisible(id));
+    if (!table)
+        return -1;
+    for (const auto& c : columns)
+        table->setTableColVisible(c.first, c.second);
+    return 0;
+}
+
+int ViewManage::View_ChangeListCtrlEnableEditCol(unsigned int id, int, bool)
+{
+    // the editable columns come with the record; this call only checks the id
+    return m_lifeCycle->findItemMaybeVisible(id) ? 0 : -1;
+}
+
+int ViewManage::View_ChangeListCtrlEnableFilter(unsigned int id, bool enable)
+{
+    QQuickItem* item = m_lifeCycle->findItemMaybeVisible(id);
+    if (!tableOf(item))
+        return -1;
+    QMetaObject::invokeMethod(item, "setFilter", Q_ARG(bool, enable));
+    return 0;
+}
+
+int ViewManage::View_ChangeListCtrlEditMode(unsigned int id, int mode)
+{
+    if (XTableViewControl* table = tableOf(m_lifeCycle->findItemMaybeVisible(id)))
+        table->view()->setEditMode(mode);
+    return -1; // the result of this call is always -1, also when the mode was switched
+}
+
+int ViewManage::View_ChangeListCtrlBrowseBoxParams(unsigned int id, unsigned int*)
+{
+    // the paging bar is not built yet: the numbers have nowhere to go
+    return tableOf(m_lifeCycle->findItemMaybeVisible(id)) ? 0 : -1;
+}
+
+int ViewManage::View_ChangeListCtrlRowTextVisible(unsigned int id, const std::list<int>& rows, bool visible)
+{
+    XTableViewControl* table = tableOf(m_lifeCycle->findItemMaybeVisible(id));
+    if (!table)
+        return -1;
+    for (int row : rows)
+        table->setRowTextVisible(row, visible);
+    return 0;
+}
+
+int ViewManage::View_ChangeListCtrlSel(unsigned int id, int row, int column)
+{
+    if (XTableViewControl* table = tableOf(m_lifeCycle->findItemMaybeVisible(id)))
+        table->changeSelectRow(row, column);
+    return 0; // always 0
 }

@@ -2,6 +2,8 @@
 
 #include "platform/logiclayercaller.h"
 
+#include <qgui/events.h>
+
 #include <cstring>
 
 namespace {
@@ -80,8 +82,13 @@ ErrRet EventRecorder::callBack(unsigned id, int code, void* data)
     e.id = id;
     e.code = code;
     e.nullData = data == nullptr;
-    if (data) {
-        int n = payloadSize(code);
+    if (data && code == 520) {
+        // a table's pending edits: "row,column=text" lines in the order sent
+        for (const View_ListEditItem& edit : *static_cast<const View_EvtListEdits*>(data))
+            e.payload += QByteArray::number(edit.row) + ',' + QByteArray::number(edit.column) + '='
+                + QByteArray(edit.text ? edit.text : "") + '\n';
+    } else if (data) {
+        int n = (code == 2 || code == 3) ? g_current->m_pressPayload : payloadSize(code);
         if (n < 0)
             e.payload = QByteArray(static_cast<const char*>(data));
         else if (n > 0)

@@ -35,6 +35,10 @@ public:
     /** Bytes of payload copied for \a code: -1 means a NUL-terminated string. */
     static int payloadSize(int code);
 
+    /** Bytes copied for presses and releases (codes 2 and 3), which differ by widget: 0 (the
+     *  default) for none, 8 for a table's cell. */
+    void setPressPayloadSize(int bytes) { m_pressPayload = bytes; }
+
     QList<Event> events() const;
     QList<Event> eventsWithCode(int code) const;
     int count(int code = -1) const;
@@ -43,6 +47,7 @@ public:
 private:
     mutable QMutex m_mutex;
     QList<Event> m_events;
+    int m_pressPayload = 0;
 };
 
 #endif // EVENTRECORDER_H

@@ -1,0 +1,415 @@
+// Tables on a real panel: creation of every list kind, pages of cells, presses
+// reporting the cell under the finger, selection and scrolling, pending edits,
+// and the fixed results of the change calls. The cell model is tested directly
+// where that is clearer.
+#include "common/eventrecorder.h"
+#include "common/guiapptestmain.h"
+#include "common/panelfixture.h"
+#include "common/testutil.h"
+
+#include "app/xquickview.h"
+#include "views/viewmanage.h"
+#include "xcomponents/qquick/xquickheadermodel.h"
+#include "xcomponents/qquick/xtablemodel.h"
+#include "xcomponents/qquick/xtableviewcontrol.h"
+
+#include <QQuickItem>
+#include <QSignalSpy>
+#include <QtQuick/private/qquicktext_p.h>
+
+#include <qgui/events.h>
+
+class tst_Tables : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void every_kind_is_a_table_data();
+    void every_kind_is_a_table();
+    void creators_refuse_null_records_and_unknown_windows();
+    void pages_fill_the_cells_and_short_pages_keep_empty_rows();
+    void press_and_release_report_the_cells_under_the_finger();
+    void selection_clears_with_a_negative_row_and_scrolls_a_far_row_into_view();
+    void pending_edits_keep_first_edit_order_and_the_latest_text();
+    void change_calls_answer_unknown_ids_and_unsupported_calls_data();
+    void change_calls_answer_unknown_ids_and_unsupported_calls();
+    void hidden_columns_and_rows_without_text();
+    void model_announces_only_the_changed_cells();
+    void bad_pages_are_cut_not_trusted();
+
+private:
+    static XTableViewControl* table(unsigned id)
+    {
+        return qobject_cast<XTableViewControl*>(ViewManage::getInstance()->getItemById(id));
+    }
+    View_List record(unsigned id, Rect r = Rect { 20, 20, 600, 300 }) const;
+    static std::vector<std::vector<View_ListColData>> page(int rows, int columns, const char* tag = "");
+    QPoint cellCenter(XTableViewControl* t, int row, int column) const;
+
+    PanelFixture m_panel;
+    EventRecorder m_rec;
+    Font m_font { nullptr, 16, 400, 0, 0, 0, 0, 0xFF000000u, 0 };
+    View_ListColumn m_columns[3] = {
+        { "Name", 200, 0, COL_STRING, nullptr, 0, 1 },
+        { "Value", 0, 0, COL_INT32, nullptr, 0, 1 },
+        { "Unit", 100, 0, COL_STRING, nullptr, 0, 0 },
+    };
+    std::vector<std::string> m_texts; // keeps the texts of page() alive
+    const unsigned A = PanelFixture::wid(1, 1);
+};
+
+View_List tst_Tables::record(unsigned id, Rect r) const
+{
+    View_List rec {};
+    rec.rect = r;
+    rec.id = id;
+    rec.columns = m_columns;
+    rec.columnCount = 3;
+    rec.rowHeight = 30;
+    rec.headerHeight = 32;
+    rec.headerFont = &m_font;
+    rec.contentFont = &m_font;
+    rec.backColor = 0xFFFFFFFFu;
+    rec.altBackColor = 0xFFEEEEEEu;
+    return rec;
+}
+
+std::vector<std::vector<View_ListColData>> tst_Tables::page(int rows, int columns, const char* tag)
+{
+    static std::vector<std::string> texts;
+    texts.clear();
+    texts.reserve(size_t(rows * columns));
+    std::vector<std::vector<View_ListColData>> out;
+    for (int r = 0; r < rows; ++r) {
+        std::vector<View_ListColData> row;
+        for (int c = 0; c < columns; ++c) {
+            texts.push_back(std::string(tag) + char('a' + c) + std::to_string(r));
+            row.push_back(View_ListColData { texts.back().c_str(), nullptr, nullptr, 0, 0 });
+        }
+        out.push_back(row);
+    }
+    return out;
+}
+
+QPoint tst_Tables::cellCenter(XTableViewControl* t, int row, int column) const
+{
+    XCommonTableView* v = t->view();
+    const qreal x = v->columnX(column) + v->columnWidthAt(column) / 2 - (v->contentX() - v->originX());
+    const qreal y = row * v->rowHeight() + v->rowHeight() / 2 - (v->contentY() - v->originY());
+    return m_panel.scenePoint(v, QPointF(x, y));
+}
+
+void tst_Tables::init()
+{
+    QVERIFY(m_panel.start());
+    m_rec.install();
+    m_rec.setPressPayloadSize(sizeof(View_EvtCell));
+    QCOMPARE(m_panel.switchWindow(A, Rect { 0, 0, 800, 480 }, 0xFFFFFFFFu), 0);
+    m_rec.clear();
+}
+
+void tst_Tables::cleanup()
+{
+    m_panel.stop();
+}
+
+void tst_Tables::every_kind_is_a_table_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<bool>("singleLine");
+    const char* names[] = { "list", "alarm", "alarm statistics", "event", "recipe", "sample",
+        "communication errors", "permissions", "database view" };
+    for (int k = 0; k < 9; ++k)
+        QTest::newRow(names[k]) << k << (k == 8);
+}
+
+void tst_Tables::every_kind_is_a_table()
+{
+    QFETCH(int, kind);
+    QFETCH(bool, singleLine);
+    View_List rec = record(10);
+    rec.rowHeight = 100; // room for several lines
+    int result = -2;
+    switch (kind) {
+    case 0: result = View_CreateListCtrl(&rec, A); break;
+    case 1: { View_listAlarm r { rec }; result = View_CreateListAlarm(&r, A); break; }
+    case 2: { View_listAlarmStat r { rec }; result = View_CreateListAlarmStat(&r, A); break; }
+    case 3: { View_listEvent r { rec }; result = View_CreateListEvent(&r, A); break; }
+    case 4: { View_listRecipe r { rec }; result = View_CreateListRecipe(&r, A); break; }
+    case 5: { View_listSample r { rec }; result = View_CreateListSample(&r, A); break; }
+    case 6: { View_listComErr r { rec }; result = View_CreateListComErr(&r, A); break; }
+    case 7: { View_listPermission r { rec }; result = View_CreateListPermission(&r, A); break; }
+    case 8: { View_listDbView r { rec }; result = View_CreateListDbView(&r, A); break; }
+    }
+    QCOMPARE(result, 0);
+    XTableViewControl* t = table(10);
+    QVERIFY(t);
+    QCOMPARE(t->getWgtRect(), QRect(20, 20, 600, 300));
+    QCOMPARE(t->view()->singleLine(), singleLine);
+    // fixed widths kept, the free column takes the rest
+    QCOMPARE(t->getActualColumnWidth(), (QVector<qreal> { 200, 300, 100 }));
+    QCOMPARE(View_IsTextOutOfRange(10, 0), 0);
+    // a long text in the database view stays on one line
+    std::string longText(400, 'x');
+    for (int i = 40; i < 400; i += 41)
+        longText[size_t(i)] = ' ';
+    std::vector<std::vector<View_ListColData>> rows { { { longText.c_str(), nullptr, nullptr, 0, 0 } } };
+    QCOMPARE(View_ChangeListCtrlContent(10, rows), 0);
+    QVERIFY(TestUtil::waitForFrame(m_panel.view()));
+    QQuickText* shown = nullptr;
+    for (QQuickItem* child : t->view()->contentItem()->childItems()) {
+        for (QQuickItem* grand : child->childItems()) {
+            auto* text = qobject_cast<QQuickText*>(grand);
+            if (text && text->text().size() == 400 && text->isVisible())
+                shown = text;
+        }
+    }
+    QVERIFY(shown);
+    QCOMPARE(shown->lineCount() == 1, singleLine);
+}
+
+void tst_Tables::creators_refuse_null_records_and_unknown_windows()
+{
+    const View_List rec = record(11);
+    QCOMPARE(View_CreateListCtrl(nullptr, A), -1);
+    QCOMPARE(View_CreateListDbView(nullptr, A), -1);
+    QCOMPARE(View_CreateListCtrl(&rec, PanelFixture::wid(1, 77)), -1);
+    QVERIFY(!table(11));
+    View_List none = record(12);
+    none.columns = nullptr; // no columns: an empty table, still a table
+    none.columnCount = 5;
+    QCOMPARE(View_CreateListCtrl(&none, A), 0);
+    QCOMPARE(table(12)->columnCount(), 0);
+    QCOMPARE(View_ChangeListCtrlContent(12, page(3, 3)), 0);
+}
+
+void tst_Tables::pages_fill_the_cells_and_short_pages_keep_empty_rows()
+{
+    const View_List rec = record(20);
+    QCOMPARE(View_CreateListCtrl(&rec, A), 0);
+    XTableViewControl* t = table(20);
+    // (300 - 32) / 30 rounded up: the empty body shows nine rows
+    QCOMPARE(t->model()->rowCount(), 9);
+    QCOMPARE(t->model()->actualRowCount(), 0);
+    QCOMPARE(View_ChangeListCtrlContent(20, page(3, 3)), 0);
+    QCOMPARE(t->model()->rowCount(), 9);
+    QCOMPARE(t->model()->actualRowCount(), 3);
+    QCOMPARE(t->model()->cellText(2, 1), QString("b2"));
+    QCOMPARE(t->model()->data(t->model()->index(1, 0), XTableModel::BackColorRole).value<QColor>(),
+        QColor(0xEE, 0xEE, 0xEE)); // every second row
+    QCOMPARE(View_ChangeListCtrlContent(20, page(40, 3)), 0);
+    QCOMPARE(t->model()->rowCount(), 40);
+    QCOMPARE(View_ChangeListCtrlContent(20, page(0, 3)), 0);
+    QCOMPARE(t->model()->rowCount(), 9);
+    QCOMPARE(t->model()->cellText(2, 1), QString());
+    // the header titles change on their own
+    std::vector<View_Text> titles(2);
+    titles[0].text = "Recipe";
+    titles[1].text = "Amount";
+    QCOMPARE(View_ChangeListCtrlTitle(20, titles), 0);
+    QCOMPARE(t->header()->headerModel()->title(0), QString("Recipe"));
+    QCOMPARE(t->header()->headerModel()->title(2), QString());
+}
+
+void tst_Tables::press_and_release_report_the_cells_under_the_finger()
+{
+    const View_List rec = record(30);
+    QCOMPARE(View_CreateListCtrl(&rec, A), 0);
+    XTableViewControl* t = table(30);
+    QCOMPARE(View_ChangeListCtrlContent(30, page(5, 3)), 0);
+    QVERIFY(TestUtil::waitForFrame(m_panel.view()));
+    m_rec.clear();
+    m_panel.press(cellCenter(t, 1, 2));
+    m_panel.release(cellCenter(t, 1, 2) + QPoint(0, 2));
+    m_panel.click(cellCenter(t, 3, 0));
+    m_panel.touch(cellCenter(t, 4, 1));
+    const QList<EventRecorder::Event> presses = m_rec.eventsWithCode(EVT_WIDGET_PRESS);
+    const QList<EventRecorder::Event> releases = m_rec.eventsWithCode(EVT_WIDGET_RELEASE);
+    QCOMPARE(presses.size(), 3);
+    QCOMPARE(releases.size(), 3);
+    const int expected[3][2] = { { 1, 2 }, { 3, 0 }, { 4, 1 } };
+    for (int i = 0; i < 3; ++i) {
+        QCOMPARE(presses.at(i).id, 30u);
+        QCOMPARE(presses.at(i).intAt(0), expected[i][0]);
+        QCOMPARE(presses.at(i).intAt(1), expected[i][1]);
+        QCOMPARE(releases.at(i).intAt(0), expected[i][0]);
+        QCOMPARE(releases.at(i).intAt(1), expected[i][1]);
+    }
+    // the header is no cell
+    m_rec.clear();
+    m_panel.click(m_panel.scenePoint(t, QPointF(100, 10)));
+    QCOMPARE(m_rec.eventsWithCode(EVT_WIDGET_PRESS).value(0).intAt(0), -1);
+}
+
+void tst_Tables::selection_clears_with_a_negative_row_and_scrolls_a_far_row_into_view()
+{
+    const View_List rec = record(40);
+    QCOMPARE(View_CreateListCtrl(&rec, A), 0);
+    XTableViewControl* t = table(40);
+    QCOMPARE(View_ChangeListCtrlContent(40, page(500, 3)), 0);
+    QVERIFY(TestUtil::waitForFrame(m_panel.view()));
+    QCOMPARE(View_ChangeListCtrlSel(40, 2, 1), 0);
+    QCOMPARE(t->view()->highlightCell(), QPoint(1, 2));
+    QCOMPARE(t->model()->data(t->model()->index(2, 1), XTableModel::HighlightRole).toBool(), true);
+    const qreal y = t->view()->contentY();
+    QCOMPARE(View_ChangeListCtrlSel(40, -1, 0), 0);
+    QCOMPARE(t->view()->highlightCell(), QPoint(-1, -1));
+    QCOMPARE(t->view()->highlightRow(), -1);
+    QCOMPARE(t->view()->contentY(), y); // no scrolling
+    QCOMPARE(t->model()->data(t->model()->index(2, 1), XTableModel::HighlightRole).toBool(), false);
+    QVERIFY(!t->view()->isLocaltedRow(420));
+    QCOMPARE(View_ChangeListCtrlSel(40, 420, 0), 0);
+    QVERIFY(t->view()->isLocaltedRow(420));
+    QCOMPARE(View_ChangeListCtrlSel(999, 1, 1), 0); // unknown id: still 0
+}
+
+void tst_Tables::pending_edits_keep_first_edit_order_and_the_latest_text()
+{
+    const View_List rec = record(50);
+    QCOMPARE(View_CreateListCtrl(&rec, A), 0);
+    XTableViewControl* t = table(50);
+    QCOMPARE(View_ChangeListCtrlContent(50, page(4, 3)), 0);
+    XCommonTableView* v = t->view();
+    v->saveEditText(1, 2, "first");
+    v->saveEditText(0, 0, "x");
+    v->saveEditText(1, 2, "second");
+    QCOMPARE(t->model()->cellText(1, 2), QString("second")); // shown at once
+    QCOMPARE(v->pendingEdits().size(), 2);
+    m_rec.clear();
+    QCOMPARE(View_ChangeListCtrlEditMode(50, 1), -1); // -1 although the edits were sent
+    const QList<EventRecorder::Event> commits = m_rec.eventsWithCode(EVT_LIST_EDIT_COMMIT);
+    QCOMPARE(commits.size(), 1);
+    QCOMPARE(commits.first().id, 50u);
+    QCOMPARE(commits.first().text(), QString("1,2=second\n0,0=x\n"));
+    QVERIFY(v->pendingEdits().isEmpty());
+    QCOMPARE(v->editMode(), 1);
+    // a cell open for editing blocks the selection; mode 0 forgets it
+    v->setEditingCell(QPoint(1, 1));
+    QCOMPARE(View_ChangeListCtrlSel(50, 3, 0), 0);
+    QCOMPARE(v->highlightCell(), QPoint(-1, -1));
+    QSignalSpy modeSpy(v, &XCommonTableView::isEditModeChanged);
+    QCOMPARE(View_ChangeListCtrlEditMode(50, 0), -1);
+    QCOMPARE(v->editingCell(), QPoint(-1, -1));
+    QCOMPARE(v->editMode(), 1); // with a cell open, only the cell goes
+    QCOMPARE(View_ChangeListCtrlEditMode(50, 0), -1);
+    QCOMPARE(v->editMode(), 0);
+    QCOMPARE(modeSpy.count(), 1);
+    QCOMPARE(View_ChangeListCtrlEditMode(50, 0), -1);
+    QCOMPARE(modeSpy.count(), 1); // unchanged: no signal
+}
+
+void tst_Tables::change_calls_answer_unknown_ids_and_unsupported_calls_data()
+{
+    QTest::addColumn<unsigned>("id");
+    QTest::addColumn<int>("expectTitle"); // title, content, font, hide, row text, filter, browse box
+    QTest::addColumn<int>("expectEditCol");
+    QTest::newRow("a table") << 60u << 0 << 0;
+    QTest::newRow("unknown id") << 999u << -1 << -1;
+    QTest::newRow("another kind") << 61u << -1 << 0; // the edit-column call only checks the id
+}
+
+void tst_Tables::change_calls_answer_unknown_ids_and_unsupported_calls()
+{
+    QFETCH(unsigned, id);
+    QFETCH(int, expectTitle);
+    QFETCH(int, expectEditCol);
+    const View_List rec = record(60);
+    QCOMPARE(View_CreateListCtrl(&rec, A), 0);
+    PanelFixture::control(61, A);
+    QCOMPARE(View_ChangeListCtrlTitle(id, std::vector<View_Text>(1)), expectTitle);
+    QCOMPARE(View_ChangeListCtrlContent(id, page(1, 3)), expectTitle);
+    QCOMPARE(View_ChangeListCtrlFont(id, std::vector<Font*> { &m_font, nullptr }), expectTitle);
+    QCOMPARE(View_ChangeListCtrlHideCol(id, { { 1, false } }), expectTitle);
+    QCOMPARE(View_ChangeListCtrlRowTextVisible(id, { 0 }, false), expectTitle);
+    QCOMPARE(View_ChangeListCtrlEnableFilter(id, true), expectTitle);
+    unsigned numbers[3] = { 10, 1, 2 };
+    QCOMPARE(View_ChangeListCtrlBrowseBoxParams(id, numbers), expectTitle);
+    QCOMPARE(View_ChangeListCtrlEnableEditCol(id, 1, true), expectEditCol);
+    QCOMPARE(View_ChangeListCtrlEditMode(id, 0), -1);
+    QCOMPARE(View_ChangeListCtrlSel(id, 0, 0), 0);
+    // not supported: -1 without touching the table
+    const QString before = table(60)->model()->cellText(0, 0);
+    QCOMPARE(View_ChangeListCtrlFontColor(id, 0, Brush {}), -1);
+    QCOMPARE(View_AddListCtrlContent(id, { "a", "b" }, 0), -1);
+    std::vector<std::string> out { "kept" };
+    QCOMPARE(View_GetListCtrlContent(id, 0, 0, out), -1);
+    QCOMPARE(out, std::vector<std::string> { "kept" });
+    QCOMPARE(table(60)->model()->cellText(0, 0), before);
+}
+
+void tst_Tables::hidden_columns_and_rows_without_text()
+{
+    const View_List rec = record(70);
+    QCOMPARE(View_CreateListCtrl(&rec, A), 0);
+    XTableViewControl* t = table(70);
+    QCOMPARE(View_ChangeListCtrlContent(70, page(3, 3)), 0);
+    QCOMPARE(View_ChangeListCtrlHideCol(70, { { 0, false }, { 7, false }, { -1, false } }), 0);
+    QCOMPARE(t->getActualColumnWidth(), (QVector<qreal> { 0, 500, 100 })); // the free column grows
+    QCOMPARE(View_ChangeListCtrlHideCol(70, { { 0, true } }), 0);
+    QCOMPARE(t->getActualColumnWidth(), (QVector<qreal> { 200, 300, 100 }));
+    QCOMPARE(View_ChangeListCtrlRowTextVisible(70, { 1, 5000, -3 }, false), 0);
+    QCOMPARE(t->model()->data(t->model()->index(1, 0), XTableModel::TextVisibleRole).toBool(), false);
+    QCOMPARE(t->model()->data(t->model()->index(0, 0), XTableModel::TextVisibleRole).toBool(), true);
+    QCOMPARE(t->model()->cellText(1, 0), QString("a1")); // kept, only not shown
+    QCOMPARE(View_ChangeListCtrlRowTextVisible(70, { 1 }, true), 0);
+    QCOMPARE(t->model()->data(t->model()->index(1, 0), XTableModel::TextVisibleRole).toBool(), true);
+}
+
+void tst_Tables::model_announces_only_the_changed_cells()
+{
+    XTableModel model;
+    model.setColumnCount(4);
+    model.setMinimumRowCount(3);
+    QCOMPARE(model.rowCount(), 3);
+    QVector<QVector<XTableModel::Cell>> rows(100, QVector<XTableModel::Cell>(4));
+    for (int r = 0; r < 100; ++r)
+        for (int c = 0; c < 4; ++c)
+            rows[r][c].text = QString::number(r * 4 + c);
+    model.updateData(rows);
+    QCOMPARE(model.rowCount(), 100);
+    QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+    QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
+    rows[57][2].text = "alarm";
+    model.updateData(rows);
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed.first().at(0).toModelIndex(), model.index(57, 2));
+    QCOMPARE(changed.first().at(1).toModelIndex(), model.index(57, 2));
+    model.updateData(rows); // the same page again: nothing
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(reset.count(), 0);
+    // an edit of an empty row makes it a row of the page
+    model.setMinimumRowCount(120);
+    QVERIFY(model.setData(model.index(110, 1), "new"));
+    QCOMPARE(model.actualRowCount(), 111);
+    QVERIFY(!model.setData(model.index(130, 1), "beyond"));
+}
+
+void tst_Tables::bad_pages_are_cut_not_trusted()
+{
+    const View_List rec = record(80);
+    QCOMPARE(View_CreateListCtrl(&rec, A), 0);
+    XTableViewControl* t = table(80);
+    // rows of unequal length, a null text, invalid UTF-8 and a huge text
+    const std::string huge(1 << 20, 'h');
+    std::vector<std::vector<View_ListColData>> rows {
+        { { "only one", nullptr, nullptr, 0, 0 } },
+        { { nullptr, nullptr, nullptr, 0, 0 }, { "\xff\xfe", nullptr, nullptr, 0, 0 },
+            { huge.c_str(), "", nullptr, 0xFFFF0000u, 0xFF00FF00u }, { "beyond", nullptr, nullptr, 0, 0 } },
+    };
+    QCOMPARE(View_ChangeListCtrlContent(80, rows), 0);
+    QCOMPARE(t->model()->cellText(0, 0), QString("only one"));
+    QCOMPARE(t->model()->cellText(0, 2), QString());
+    QCOMPARE(t->model()->cellText(1, 0), QString());
+    QCOMPARE(t->model()->cellText(1, 1), QString(2, QChar(0xFFFD)));
+    QVERIFY(t->model()->cellText(1, 2).size() <= 4096);
+    QCOMPARE(t->model()->columnCount(), 3);
+    QCOMPARE(t->model()->data(t->model()->index(1, 2), XTableModel::TextColorRole).value<QColor>(), QColor(Qt::red));
+    QVERIFY(TestUtil::waitForFrame(m_panel.view()));
+    QCOMPARE(View_DeleteWidgets({ 80u }), 0);
+    PanelFixture::settle();
+    QVERIFY(!table(80));
+}
+
+QGUI_GUIAPP_TEST_MAIN(tst_Tables)
+#include "tst_tables.moc"

@@ -1,0 +1,81 @@
+#include "xcomponents/qquick/xcommontableview.h"
+
+#include "platform/logiclayercaller.h"
+#include "xcomponents/qquick/xtablemodel.h"
+
+#include <qgui/events.h>
+
+XCommonTableView::XCommonTableView(QQuickItem* parent)
+    : XQuickTableView(parent)
+{
+}
+
+XCommonTableView::~XCommonTableView() = default;
+
+void XCommonTableView::setEditMode(int mode)
+{
+    if (mode == 1) {
+        // the edits go out in first-edit order; the texts live until the call returns
+        std::vector<QByteArray> texts;
+        texts.reserve(size_t(m_pending.size()));
+        View_EvtListEdits edits;
+        edits.reserve(size_t(m_pending.size()));
+        for (const Edit& e : m_pending)
+            texts.push_back(e.text.toUtf8());
+        for (int i = 0; i < m_pending.size(); ++i)
+            edits.push_back(View_ListEditItem { m_pending.at(i).row, m_pending.at(i).column, texts[size_t(i)].constData() });
+        LogicLayerCaller::call(m_widgetId, EVT_LIST_EDIT_COMMIT, &edits);
+        m_pending.clear();
+        if (m_editMode != 1) {
+            m_editMode = 1;
+            Q_EMIT isEditModeChanged();
+        }
+        return;
+    }
+    if (mode != 0)
+        return; // other modes are not known: nothing changes
+    if (m_editing.x() >= 0) {
+        m_editing = QPoint(-1, -1);
+        Q_EMIT hideKeyboardRequested();
+        return;
+    }
+    Q_EMIT hideKeyboardRequested();
+    if (m_editMode == 0)
+        return;
+    m_editMode = 0;
+    Q_EMIT isEditModeChanged();
+}
+
+void XCommonTableView::saveEditText(int row, int column, const QString& text)
+{
+    if (m_model)
+        m_model->setData(m_model->index(row, column), text);
+    for (Edit& e : m_pending) {
+        if (e.row == row && e.column == column) {
+            e.text = text;
+            return;
+        }
+    }
+    m_pending.append(Edit { row, column, text });
+}
+
+void XCommonTableView::setHighlight(int row, const QPoint& cell, bool wholeRow)
+{
+    m_highlightRow = row;
+    m_highlightCell = cell;
+    if (m_model)
+        m_model->setHighlight(wholeRow ? row : cell.y(), wholeRow ? -1 : cell.x(), wholeRow);
+}
+
+bool XCommonTableView::isLocaltedRow(int row) const
+{
+    const qreal top = row * rowHeight();
+    const qreal y = contentY() - originY();
+    return top >= y && top + rowHeight() <= y + height();
+}
+
+void XCommonTableView::jumpToRow(int row)
+{
+    const qreal maxY = qMax<qreal>(0, contentHeight() - height());
+    setContentY(originY() + qBound<qreal>(0, row * rowHeight(), maxY));
+}

@@ -1,0 +1,27 @@
+#include "xcomponents/qquick/xtableheader.h"
+
+#include "xcomponents/qquick/xquickheadermodel.h"
+
+XTableHeader::XTableHeader(QQuickItem* parent)
+    : XQuickTableView(parent)
+    , m_model(new XQuickHeaderModel(this))
+{
+    setInteractive(false); // it follows the body
+}
+
+XTableHeader::~XTableHeader() = default;
+
+void XTableHeader::setFilterEnabled(bool on)
+{
+    if (on == m_filter)
+        return;
+    m_filter = on;
+    Q_EMIT filterEnabledChanged();
+}
+
+void XTableHeader::setActionCheckedCol(int column, int order)
+{
+    m_checkedColumn = column;
+    m_checkedOrder = order;
+    m_model->setCheckedColumn(order == 1 ? -1 : column); // ORDER_NONE shows no mark
+}

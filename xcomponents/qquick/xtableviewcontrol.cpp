@@ -1,0 +1,298 @@
+#include "xcomponents/qquick/xtableviewcontrol.h"
+
+#include "platform/logiclayercaller.h"
+#include "xcomponents/qquick/xcommontableview.h"
+#include "xcomponents/qquick/xquickheadermodel.h"
+#include "xcomponents/qquick/xtableheader.h"
+#include "xcomponents/qquick/xtablemodel.h"
+
+#include <QFontMetrics>
+#include <QMouseEvent>
+#include <QQmlEngine>
+#include <QTouchEvent>
+
+#include <qgui/events.h>
+
+namespace {
+constexpr int kMaxColumns = 1024;
+const char* const kCellUrl = "qrc:/list/QmlTableCell.qml";
+const char* const kHeaderCellUrl = "qrc:/list/QmlTableHeaderCell.qml";
+} // namespace
+
+XTableViewControl::XTableViewControl(QQuickItem* parent)
+    : XBaseControl(parent)
+    , m_model(new XTableModel(this))
+{
+    setFiltersChildMouseEvents(true);
+    setAcceptTouchEvents(false); // touches arrive as synthesized mouse events, watched like them
+    setClip(true);
+}
+
+XTableViewControl::~XTableViewControl() = default;
+
+bool XTableViewControl::initialze(const Setup& setup, QQmlEngine* engine)
+{
+    m_setup = setup;
+    if (m_setup.columns.size() > kMaxColumns)
+        m_setup.columns.resize(kMaxColumns);
+    const int columns = m_setup.columns.size();
+
+    m_model->setColumnCount(columns);
+    m_model->setDefaultFont(m_setup.contentFont, m_setup.contentColor);
+    m_model->setBackColor(m_setup.backColor);
+    m_model->setAltBackColor(m_setup.altBackColor);
+    m_model->setHighlightColor(m_setup.highlightColor);
+    for (int c = 0; c < columns; ++c) {
+        const Column& col = m_setup.columns.at(c);
+        m_model->setColumnAlignment(c, col.align);
+        if (col.hasFont)
+            m_model->setColumnFont(c, col.font, col.color);
+    }
+
+    // the views are made outside the scene and put in once complete
+    m_view = new XCommonTableView;
+    m_view->setTableModel(m_model);
+    m_view->setSingleLine(m_setup.singleLine);
+    m_view->setGridColor(m_setup.gridColor);
+    m_view->setGridWidth(m_setup.gridWidth);
+    m_view->setRowHeight(rowHeight());
+    const bool bodyMade = m_view->start(engine, m_model, QUrl(QString::fromLatin1(kCellUrl)));
+    m_view->setParent(this);
+    m_view->setParentItem(this);
+    if (!bodyMade)
+        return false;
+    m_view->setWidgetId(getId());
+    connect(this, &XBaseControl::widgetIdChanged, m_view.data(), [this] { m_view->setWidgetId(getId()); });
+    connect(m_view.data(), &QQuickFlickable::movingChanged, this, [this] { setIsMoving(m_view->isMoving()); });
+
+    m_header = new XTableHeader;
+    XQuickHeaderModel* hm = m_header->headerModel();
+    hm->setColumnCount(columns);
+    QStringList titles;
+    for (const Column& col : m_setup.columns)
+        titles << col.title;
+    hm->setTitles(titles);
+    hm->setHeaderHeight(headerHeight());
+    hm->setBackgroundColor(m_setup.headerColor);
+    hm->setFont(m_setup.headerFont, m_setup.headerTextColor);
+    m_header->setGridColor(m_setup.gridColor);
+    m_header->setGridWidth(m_setup.gridWidth);
+    m_header->setRowHeight(headerHeight());
+    m_header->setFilterEnabled(m_setup.filter);
+    m_header->setVisible(!m_setup.hideHeader);
+    const bool headerMade = m_header->start(engine, hm, QUrl(QString::fromLatin1(kHeaderCellUrl)));
+    m_header->setParent(this);
+    m_header->setParentItem(this);
+    if (!headerMade)
+        return false;
+    m_header->setSyncView(m_view);
+    m_header->setSyncDirection(Qt::Horizontal);
+    layoutParts();
+    return true;
+}
+
+int XTableViewControl::rowHeight() const
+{
+    if (m_setup.rowHeight > 0)
+        return m_setup.rowHeight;
+    int h = QFontMetrics(m_setup.contentFont).height();
+    for (const Column& c : m_setup.columns) {
+        if (c.hasFont)
+            h = qMax(h, QFontMetrics(c.font).height());
+    }
+    return h + 12;
+}
+
+int XTableViewControl::headerHeight() const
+{
+    if (m_setup.hideHeader)
+        return 0;
+    return m_setup.headerHeight > 0 ? m_setup.headerHeight : QFontMetrics(m_setup.headerFont).height() + 12;
+}
+
+void XTableViewControl::calcColumnWidth()
+{
+    const int n = m_setup.columns.size();
+    qreal fixed = 0;
+    int shared = 0;
+    for (const Column& c : m_setup.columns) {
+        if (c.hidden)
+            continue;
+        if (c.width > 0)
+            fixed += c.width;
+        else
+            ++shared;
+    }
+    const qreal share = shared ? qMax<qreal>(0, (width() - fixed) / shared) : 0;
+    QVector<qreal> widths(n, 0);
+    for (int i = 0; i < n; ++i) {
+        const Column& c = m_setup.columns.at(i);
+        widths[i] = c.hidden ? 0 : (c.width > 0 ? c.width : share);
+    }
+    if (m_view)
+        m_view->setColumnWidths(widths);
+    if (m_header)
+        m_header->setColumnWidths(widths);
+}
+
+QVector<qreal> XTableViewControl::getActualColumnWidth() const
+{
+    return m_view ? m_view->columnWidths() : QVector<qreal>();
+}
+
+void XTableViewControl::layoutParts()
+{
+    if (!m_view || !m_header)
+        return;
+    const qreal top = headerHeight();
+    m_header->setPosition(QPointF(0, 0));
+    m_header->setSize(QSizeF(width(), top));
+    m_view->setPosition(QPointF(0, top));
+    m_view->setSize(QSizeF(width(), qMax<qreal>(0, height() - top)));
+    calcColumnWidth();
+    updateMinimumRows();
+}
+
+void XTableViewControl::updateMinimumRows()
+{
+    if (!m_view)
+        return;
+    // an empty or short page still fills the body with empty rows
+    m_model->setMinimumRowCount(int(std::ceil(m_view->height() / qMax(1, rowHeight()))));
+}
+
+void XTableViewControl::geometryChanged(const QRectF& newGeometry, const QRectF& oldGeometry)
+{
+    XBaseControl::geometryChanged(newGeometry, oldGeometry);
+    if (newGeometry.size() != oldGeometry.size())
+        layoutParts();
+}
+
+void XTableViewControl::updateHeader(const QStringList& titles)
+{
+    if (m_header)
+        m_header->headerModel()->setTitles(titles);
+}
+
+void XTableViewControl::updateData(const QVector<QVector<XTableCell>>& rows)
+{
+    QVector<QVector<XTableModel::Cell>> page;
+    page.reserve(rows.size());
+    for (const QVector<XTableCell>& row : rows) {
+        QVector<XTableModel::Cell> r;
+        r.reserve(qMin(row.size(), m_setup.columns.size()));
+        for (int c = 0; c < row.size() && c < m_setup.columns.size(); ++c) {
+            const XTableCell& in = row.at(c);
+            XTableModel::Cell cell;
+            cell.text = in.text;
+            cell.image = in.image;
+            cell.textColor = in.textColor.isValid() ? in.textColor.rgba() : 0;
+            cell.backColor = in.backColor.isValid() ? in.backColor.rgba() : 0;
+            cell.font = in.hasFont ? m_model->addCellFont(in.font) : -1;
+            r.append(std::move(cell));
+        }
+        page.append(std::move(r));
+    }
+    m_model->updateData(page);
+}
+
+void XTableViewControl::changeListCtrlFont(const QVector<QPair<QFont, QColor>>& fonts)
+{
+    for (int c = 0; c < fonts.size() && c < m_setup.columns.size(); ++c) {
+        m_setup.columns[c].font = fonts.at(c).first;
+        m_setup.columns[c].color = fonts.at(c).second;
+        m_setup.columns[c].hasFont = true;
+        m_model->setColumnFont(c, fonts.at(c).first, fonts.at(c).second);
+    }
+    if (m_view && m_setup.rowHeight <= 0) {
+        m_view->setRowHeight(rowHeight());
+        updateMinimumRows();
+    }
+}
+
+void XTableViewControl::setTableColVisible(int column, bool visible)
+{
+    if (column < 0 || column >= m_setup.columns.size() || m_setup.columns.at(column).hidden == !visible)
+        return;
+    m_setup.columns[column].hidden = !visible;
+    calcColumnWidth();
+}
+
+void XTableViewControl::setRowTextVisible(int row, bool visible)
+{
+    m_model->setDataVisible(row, visible);
+}
+
+void XTableViewControl::changeSelectRow(int row, int column)
+{
+    if (!m_view || m_view->editingCell().x() >= 0)
+        return;
+    if (row < 0 || column < 0) {
+        m_view->setHighlight(row, QPoint(-1, -1), m_setup.selectRow);
+        return;
+    }
+    m_view->setHighlight(row, QPoint(column, row), m_setup.selectRow);
+    if (!m_view->isLocaltedRow(row))
+        m_view->jumpToRow(row);
+}
+
+void XTableViewControl::setFilter(bool on)
+{
+    m_setup.filter = on;
+    if (m_header)
+        m_header->setFilterEnabled(on);
+}
+
+void XTableViewControl::setIsMoving(bool moving)
+{
+    if (moving == m_moving)
+        return;
+    m_moving = moving;
+    LogicLayerCaller::call(getId(), moving ? EVT_LIST_MOVE_START : EVT_LIST_MOVE_END, nullptr);
+}
+
+void XTableViewControl::sendCell(int code, const QPointF& scenePos, ulong timestamp)
+{
+    const SentPress sent { code, scenePos, timestamp };
+    if (sent.code == m_lastSent.code && sent.pos == m_lastSent.pos && sent.timestamp == m_lastSent.timestamp)
+        return;
+    m_lastSent = sent;
+    View_EvtCell cell { -1, -1 };
+    if (m_view) {
+        const QPoint at = m_view->cellAt(m_view->mapFromScene(scenePos));
+        cell.row = at.y();
+        cell.column = at.x();
+    }
+    LogicLayerCaller::call(getId(), code, &cell);
+}
+
+bool XTableViewControl::childMouseEventFilter(QQuickItem* item, QEvent* event)
+{
+    // the body flicks with the finger; the press and the release are only watched
+    // (each item the event is offered to comes here: one press is sent once)
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease) {
+        auto* me = static_cast<QMouseEvent*>(event);
+        if (me->button() == Qt::LeftButton)
+            sendCell(event->type() == QEvent::MouseButtonPress ? EVT_WIDGET_PRESS : EVT_WIDGET_RELEASE,
+                me->windowPos(), me->timestamp());
+    }
+    return XBaseControl::childMouseEventFilter(item, event);
+}
+
+void XTableViewControl::mousePressEvent(QMouseEvent* event)
+{
+    sendCell(EVT_WIDGET_PRESS, event->windowPos(), event->timestamp());
+    event->accept();
+}
+
+void XTableViewControl::mouseReleaseEvent(QMouseEvent* event)
+{
+    sendCell(EVT_WIDGET_RELEASE, event->windowPos(), event->timestamp());
+    event->accept();
+}
+
+void XTableViewControl::touchEvent(QTouchEvent* event)
+{
+    // presses come as mouse events synthesized from the touch
+    event->ignore();
+}

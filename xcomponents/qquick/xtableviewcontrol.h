@@ -1,0 +1,143 @@
+#ifndef XTABLEVIEWCONTROL_H
+#define XTABLEVIEWCONTROL_H
+
+#include "xcomponents/qquick/xbasecontrol.h"
+#include "xcomponents/qquick/xcommontableview.h"
+#include "xcomponents/qquick/xtableheader.h"
+
+#include <QColor>
+#include <QFont>
+#include <QPointer>
+#include <QStringList>
+#include <QVector>
+
+class QQmlEngine;
+class XTableModel;
+
+/** One cell as the views layer converts it from the interface record. */
+struct XTableCell {
+    QString text;
+    QString image; /**< URL of the picture, "" for none */
+    QColor textColor; /**< invalid: the column's */
+    QColor backColor; /**< invalid: the row's */
+    QFont font;
+    bool hasFont = false;
+};
+
+/**
+ * A table: the header row, the body of cells the logic layer fills page by
+ * page, highlighting and the edit state. Every list kind of the panel is one of
+ * these, set up from its record.
+ *
+ * A press and a release anywhere on the control are sent as events 2 and 3 with
+ * the cell under the finger (View_EvtCell; -1 outside the cells), the release
+ * naming the cell where the finger left. The body's scrolling is sent as 522
+ * (started moving) and 521 (stopped).
+ */
+class XTableViewControl : public XBaseControl {
+    Q_OBJECT
+
+public:
+    /** One column as set up. */
+    struct Column {
+        QString title;
+        int width = 0; /**< <= 0: shares what the fixed columns leave */
+        Qt::Alignment align = Qt::AlignCenter;
+        int dataType = 12; /**< ColDataType code */
+        QFont font;
+        QColor color { Qt::black };
+        bool hasFont = false;
+        bool hidden = false;
+        bool editable = false;
+    };
+    /** The whole set-up, converted from the interface record. */
+    struct Setup {
+        QVector<Column> columns;
+        bool hideHeader = false;
+        bool filter = false;
+        bool singleLine = false;
+        bool selectRow = false;
+        int headerHeight = 0; /**< <= 0: from the header font */
+        int rowHeight = 0; /**< <= 0: from the content font */
+        QFont headerFont;
+        QColor headerTextColor { Qt::white };
+        QFont contentFont;
+        QColor contentColor { Qt::black };
+        QColor headerColor { 0x53, 0x7B, 0xAD };
+        QColor backColor { Qt::white };
+        QColor altBackColor { Qt::white };
+        QColor highlightColor { 0x6E, 0xA2, 0xE2 };
+        QColor gridColor { 0xC8, 0xCC, 0xD2 };
+        int gridWidth = 1;
+        QColor borderColor { Qt::transparent };
+        int borderWidth = 0;
+    };
+
+    explicit XTableViewControl(QQuickItem* parent = nullptr);
+    ~XTableViewControl() override;
+
+    /** Builds the header and the body in \a engine; false when the QML parts cannot be made. */
+    bool initialze(const Setup& setup, QQmlEngine* engine);
+
+    XTableHeader* header() const { return m_header; }
+    XCommonTableView* view() const { return m_view; }
+    XTableModel* model() const { return m_model; }
+    int columnCount() const { return m_setup.columns.size(); }
+    const Column& column(int c) const { return m_setup.columns.at(c); }
+
+    /** New titles, one per column (missing ones empty). */
+    void updateHeader(const QStringList& titles);
+    /** Replaces the page. */
+    void updateData(const QVector<QVector<XTableCell>>& rows);
+    /** Fonts per column, in column order. */
+    void changeListCtrlFont(const QVector<QPair<QFont, QColor>>& fonts);
+    /** Shows or hides a column; unknown columns are ignored. */
+    void setTableColVisible(int column, bool visible);
+    /** Shows or hides the text of \a row. */
+    void setRowTextVisible(int row, bool visible);
+    /**
+     * Ignored while a cell is being edited. A negative row or column clears the highlighted cell
+     * and sets the highlighted row to \a row (nothing more for a negative row); otherwise the
+     * cell (column, row) is highlighted and scrolled into view when it is not.
+     */
+    void changeSelectRow(int row, int column);
+    /** Shows or hides the header's sort and filter menus. */
+    Q_INVOKABLE void setFilter(bool on);
+    bool isMoving() const { return m_moving; }
+    /** Sends 522 when \a moving, 521 when not, on every change. */
+    void setIsMoving(bool moving);
+
+    /** Column widths as laid out now (0 for hidden columns). */
+    QVector<qreal> getActualColumnWidth() const;
+    int rowHeight() const;
+    int headerHeight() const;
+
+protected:
+    void geometryChanged(const QRectF& newGeometry, const QRectF& oldGeometry) override;
+    bool childMouseEventFilter(QQuickItem* item, QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void touchEvent(QTouchEvent* event) override;
+
+private:
+    void calcColumnWidth();
+    void layoutParts();
+    void updateMinimumRows();
+    void sendCell(int code, const QPointF& scenePos, ulong timestamp);
+
+    /** The press or release sent last. */
+    struct SentPress {
+        int code = 0;
+        QPointF pos;
+        ulong timestamp = 0;
+    };
+
+    Setup m_setup;
+    XTableModel* m_model;
+    QPointer<XTableHeader> m_header;
+    QPointer<XCommonTableView> m_view;
+    bool m_moving = false;
+    SentPress m_lastSent;
+};
+
+#endif // XTABLEVIEWCONTROL_H
