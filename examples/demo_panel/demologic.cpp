@@ -3,6 +3,7 @@
 #include "demologic.h"
 
 #include "entryscreen.h"
+#include "recipescreen.h"
 
 #include <csignal>
 #include <cstdio>
@@ -23,9 +24,12 @@ const unsigned kWindow1 = (kDesk << 16) | 1; // window ids: desktop number in th
 const unsigned kWindow2 = (kDesk << 16) | 2;
 const unsigned kPopup = (kDesk << 16) | 3;
 const unsigned kEntry = (kDesk << 16) | 4; // the entry screen (entryscreen.cpp)
-const int kEntryFrom = 60, kEntryEvery = 5; // its script: one step every half second from 6 s
+const int kEntryFrom = 76, kEntryEvery = 5; // its script: one step every half second from 7.6 s
 int g_entryStep = 0;
 bool g_entryDone = false;
+const unsigned kRecipes = (kDesk << 16) | 5; // the recipe screen (recipescreen.cpp)
+int g_recipeStep = 0;
+bool g_recipeDone = false;
 unsigned g_current = 0;
 
 // widget ids of window 1
@@ -128,6 +132,8 @@ void showWindow(unsigned windowId)
     g_current = windowId;
     if (windowId == kEntry)
         EntryScreen::build(kEntry);
+    if (windowId == kRecipes)
+        RecipeScreen::build(kRecipes);
     if (windowId == kWindow1)
         buildWindow1();
     if (windowId == kWindow2) {
@@ -219,7 +225,7 @@ ErrRet onEvent(unsigned id, int code, void* data)
     }
     std::printf("\n");
     std::fflush(stdout);
-    if (EntryScreen::onEvent(id, code, data))
+    if (EntryScreen::onEvent(id, code, data) || RecipeScreen::onEvent(id, code, data))
         return 0;
     if (code == EVT_POPUP_CLOSE && id == kPopup)
         closePopup(); // the close button only reports: closing is the logic layer's decision
@@ -326,6 +332,10 @@ void every100ms(int)
             View_UpdateQRCodeContent(kQr, qr); // ignored while window 1 is closed
         }
         if (g_ticks100 == 58)
+            showWindow(kRecipes);
+        if (g_current == kRecipes && !g_recipeDone && g_ticks100 % 3 == 0)
+            g_recipeDone = !RecipeScreen::scriptStep(g_recipeStep++, screenshot);
+        if (g_ticks100 == 74)
             showWindow(kEntry);
         if (!g_entryDone && g_ticks100 >= kEntryFrom && (g_ticks100 - kEntryFrom) % kEntryEvery == 0)
             g_entryDone = !EntryScreen::scriptStep(g_entryStep++, screenshot);
