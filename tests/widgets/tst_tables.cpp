@@ -375,6 +375,7 @@ void tst_Tables::model_announces_only_the_changed_cells()
     QCOMPARE(changed.count(), 1);
     QCOMPARE(changed.first().at(0).toModelIndex(), model.index(57, 2));
     QCOMPARE(changed.first().at(1).toModelIndex(), model.index(57, 2));
+    QCOMPARE(changed.first().at(2).value<QVector<int>>(), (QVector<int> { Qt::DisplayRole, Qt::EditRole }));
     model.updateData(rows); // the same page again: nothing
     QCOMPARE(changed.count(), 1);
     QCOMPARE(reset.count(), 0);

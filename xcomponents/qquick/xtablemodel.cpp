@@ -146,15 +146,23 @@ void XTableModel::updateData(const QVector<QVector<Cell>>& rows)
         int bottom = -1;
         int left = m_columns;
         int right = -1;
+        bool text = false, image = false, colors = false, font = false;
         for (int r = 0; r < oldRows; ++r) {
             const QVector<Cell>& a = m_rows.at(r);
             const QVector<Cell>& b = next.at(r);
             for (int c = 0; c < m_columns; ++c) {
                 const Cell& x = a.at(c);
                 const Cell& y = b.at(c);
-                if (x.text == y.text && x.image == y.image && x.textColor == y.textColor
-                    && x.backColor == y.backColor && x.font == y.font)
+                const bool newText = x.text != y.text;
+                const bool newImage = x.image != y.image;
+                const bool newColors = x.textColor != y.textColor || x.backColor != y.backColor;
+                const bool newFont = x.font != y.font;
+                if (!(newText || newImage || newColors || newFont))
                     continue;
+                text |= newText;
+                image |= newImage;
+                colors |= newColors;
+                font |= newFont;
                 top = top < 0 ? r : top;
                 bottom = r;
                 left = qMin(left, c);
@@ -162,8 +170,19 @@ void XTableModel::updateData(const QVector<QVector<Cell>>& rows)
             }
         }
         m_rows = std::move(next);
-        if (top >= 0)
-            Q_EMIT dataChanged(index(top, left), index(bottom, right));
+        if (top < 0)
+            return;
+        // only the roles that changed: the cells re-evaluate no more than that
+        QVector<int> roles;
+        if (text)
+            roles << Qt::DisplayRole << Qt::EditRole;
+        if (image)
+            roles << ImageRole;
+        if (colors)
+            roles << TextColorRole << BackColorRole;
+        if (font)
+            roles << FontRole;
+        Q_EMIT dataChanged(index(top, left), index(bottom, right), roles);
         return;
     }
 
