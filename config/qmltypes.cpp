@@ -8,6 +8,7 @@
 #include "xcomponents/qquick/xcommontableview.h"
 #include "xcomponents/qquick/xquicktableview.h"
 #include "xcomponents/qquick/xtableheader.h"
+#include "xcomponents/qquick/xsettingtoolcontrol.h"
 #include "xcomponents/qquick/xtablemodel.h"
 #include "xcomponents/qquick/xtableviewcontrol.h"
 #include "xcomponents/qquick/lighterpopup.h"
@@ -85,4 +86,5 @@ void registerQmlTypes()
     qmlRegisterType<XCommonTableView>(uri, 1, 0, "XCommonTableView");
     qmlRegisterType<XTableHeader>(uri, 1, 0, "XTableHeader");
     qmlRegisterType<XTableModel>(uri, 1, 0, "XTableModel");
+    qmlRegisterType<XSettingToolControl>(uri, 1, 0, "XSettingToolControl");
 }

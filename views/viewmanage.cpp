@@ -4,6 +4,7 @@
 #include "platform/guiqtadaptcore.h"
 #include "views/curvesamplecharttimemodecontroller.h"
 #include "views/lifecyclemanager.h"
+#include "views/liststate.h"
 #include "views/presswatcher.h"
 #include "views/pinyinstate.h"
 #include "views/qmlwindowmanage.h"
@@ -40,6 +41,7 @@ ViewManage::ViewManage()
     , m_timeMode(std::make_unique<CurveSampleChartTimeModeController>())
     , m_vkb(std::make_unique<VkbState>())
     , m_pinyin(std::make_unique<PinyinState>())
+    , m_list(std::make_unique<ListState>(m_vkb.get()))
 {
     XQmlComponentManage::getInstance()->setWindowManage(m_windowManage.get());
     // the keyboard's layer takes the panel's dimming colour and stays usable on a dimmed panel
@@ -60,6 +62,7 @@ ViewManage::~ViewManage()
     const QList<QQuickItem*> items = m_lifeCycle->allItems();
     m_idHash.clear();
     qDeleteAll(items);
+    m_list.reset();
     m_vkb.reset();
     m_pinyin.reset(); // its popup lives on an overlay of the window manager
     m_windowManage.reset();

@@ -23,6 +23,7 @@ class QmlWindowManage;
 class XQmlComponentManage;
 class CurveSampleChartTimeModeController;
 class VkbState;
+class ListState;
 class PinyinState;
 
 /**
@@ -369,6 +370,7 @@ private:
     std::unique_ptr<PinyinState> m_pinyin;
     QHash<unsigned, QQuickItem*> m_idHash;
     std::unique_ptr<VkbState> m_vkb;
+    std::unique_ptr<ListState> m_list; // after m_vkb: it refers to it
 };
 
 #endif // VIEWMANAGE_H

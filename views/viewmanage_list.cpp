@@ -5,6 +5,7 @@
 
 #include "platform/guiqtadaptcore.h"
 #include "views/lifecyclemanager.h"
+#include "views/liststate.h"
 #include "xcomponents/qquick/picturecachemanage.h"
 #include "xcomponents/qquick/xcommontableview.h"
 #include "xcomponents/qquick/xqmlcomponentmanage.h"
@@ -49,6 +50,10 @@ XTableViewControl::Setup toSetup(const View_List& rec, bool forceSingleLine)
     s.filter = rec.flags & LIST_ENABLE_FILTER;
     s.singleLine = forceSingleLine || (rec.flags & LIST_SINGLE_LINE);
     s.selectRow = rec.flags & LIST_SELECT_ROW;
+    s.toolbar = rec.flags & LIST_SHOW_TOOLBAR;
+    s.hidePageButtons = rec.flags & LIST_HIDE_PAGE_BUTTONS;
+    s.hidePageNum = rec.flags & LIST_HIDE_PAGE_NUM;
+    s.hideTotalNum = rec.flags & LIST_HIDE_TOTAL_NUM;
     s.headerHeight = rec.headerHeight;
     s.rowHeight = rec.rowHeight;
     s.headerFont = Core::toQFont(rec.headerFont);
@@ -95,6 +100,7 @@ int ViewManage::createTable(const View_List* rec, unsigned int windowId, bool si
         return -1;
     }
     placeWidget(table, rec, windowId);
+    m_list->attach(table);
     return 0;
 }
 
@@ -257,10 +263,14 @@ int ViewManage::View_ChangeListCtrlEditMode(unsigned int id, int mode)
     return -1; // the result of this call is always -1, also when the mode was switched
 }
 
-int ViewManage::View_ChangeListCtrlBrowseBoxParams(unsigned int id, unsigned int*)
+int ViewManage::View_ChangeListCtrlBrowseBoxParams(unsigned int id, unsigned int* values)
 {
-    // the paging bar is not built yet: the numbers have nowhere to go
-    return tableOf(m_lifeCycle->findItemMaybeVisible(id)) ? 0 : -1;
+    XTableViewControl* table = tableOf(m_lifeCycle->findItemMaybeVisible(id));
+    if (!table)
+        return -1;
+    if (values) // null numbers change nothing
+        table->setBrowseBoxParams(values[0], values[1], values[2]);
+    return 0;
 }
 
 int ViewManage::View_ChangeListCtrlRowTextVisible(unsigned int id, const std::list<int>& rows, bool visible)

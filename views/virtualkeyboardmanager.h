@@ -58,6 +58,8 @@ public:
     void popupRawVKB(VkbLayoutType type);
     void showVkb(bool show);
     void hideVkb();
+    /** True while the keyboard is open (not while it is only being prepared). */
+    bool isShown() const { return m_shown; }
     bool isVisible() const;
     /** The keyboard's rectangle in the layer (window coordinates); empty before init. */
     QRectF getVkbRect() const;

@@ -2,6 +2,9 @@
 #define VKBSTATE_H
 
 #include <QObject>
+#include <QPointer>
+
+#include <functional>
 
 class VirtualKeyboardManager;
 
@@ -21,7 +24,20 @@ public:
     ~VkbState() override;
 
     unsigned requester() const { return m_requester; }
-    void setRequester(unsigned id) { m_requester = id; }
+    /** A widget asked through the interface: its events go to the logic layer. */
+    void setRequester(unsigned id)
+    {
+        m_requester = id;
+        m_internal = false;
+        m_owner.clear();
+    }
+    /**
+     * The panel opened the keyboard for one of its own widgets (a table's page entry or cell):
+     * the confirmed text goes to \a onEnter and the hiding to \a onHide instead of the logic
+     * layer, as long as \a owner lives; once it is gone, both are dropped.
+     */
+    void setInternalTarget(QObject* owner, std::function<void(const QString&)> onEnter, std::function<void()> onHide);
+    bool isInternal() const { return m_internal; }
     /** Connects \a manager's confirmation and hiding to the events, the first time only. */
     void connectOnce(VirtualKeyboardManager* manager);
     bool isConnected() const { return m_connected; }
@@ -29,6 +45,10 @@ public:
 private:
     unsigned m_requester = 0;
     bool m_connected = false;
+    bool m_internal = false;
+    QPointer<QObject> m_owner;
+    std::function<void(const QString&)> m_onEnter;
+    std::function<void()> m_onHide;
 };
 
 #endif // VKBSTATE_H

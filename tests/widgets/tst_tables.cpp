@@ -9,6 +9,7 @@
 
 #include "app/xquickview.h"
 #include "views/viewmanage.h"
+#include "views/virtualkeyboardmanager.h"
 #include "xcomponents/qquick/xquickheadermodel.h"
 #include "xcomponents/qquick/xtablemodel.h"
 #include "xcomponents/qquick/xtableviewcontrol.h"
@@ -36,6 +37,11 @@ private Q_SLOTS:
     void change_calls_answer_unknown_ids_and_unsupported_calls();
     void hidden_columns_and_rows_without_text();
     void model_announces_only_the_changed_cells();
+    void paging_bar_reports_and_shows_the_logic_layers_numbers();
+    void cells_are_edited_through_the_keyboard_in_edit_mode();
+    void data_types_choose_keyboard_and_validator_data();
+    void data_types_choose_keyboard_and_validator();
+    void table_deleted_while_the_keyboard_edits_a_cell();
     void bad_pages_are_cut_not_trusted();
 
 private:
@@ -46,6 +52,7 @@ private:
     View_List record(unsigned id, Rect r = Rect { 20, 20, 600, 300 }) const;
     static std::vector<std::vector<View_ListColData>> page(int rows, int columns, const char* tag = "");
     QPoint cellCenter(XTableViewControl* t, int row, int column) const;
+    void typeOnKeyboard(const QStringList& keys);
 
     PanelFixture m_panel;
     EventRecorder m_rec;
@@ -98,6 +105,17 @@ QPoint tst_Tables::cellCenter(XTableViewControl* t, int row, int column) const
     const qreal x = v->columnX(column) + v->columnWidthAt(column) / 2 - (v->contentX() - v->originX());
     const qreal y = row * v->rowHeight() + v->rowHeight() / 2 - (v->contentY() - v->originY());
     return m_panel.scenePoint(v, QPointF(x, y));
+}
+
+void tst_Tables::typeOnKeyboard(const QStringList& keys)
+{
+    VirtualKeyboardManager* vkb = VirtualKeyboardManager::instance();
+    QVERIFY(TestUtil::waitForFrame(m_panel.view()));
+    for (const QString& k : keys) {
+        QQuickItem* key = TestUtil::findItem(vkb->keyboardItem(), "key_" + k);
+        QVERIFY2(key && key->isVisible(), qPrintable(k));
+        m_panel.click(m_panel.sceneCenter(key));
+    }
 }
 
 void tst_Tables::init()
@@ -410,6 +428,151 @@ void tst_Tables::bad_pages_are_cut_not_trusted()
     QCOMPARE(View_DeleteWidgets({ 80u }), 0);
     PanelFixture::settle();
     QVERIFY(!table(80));
+}
+
+void tst_Tables::paging_bar_reports_and_shows_the_logic_layers_numbers()
+{
+    View_List rec = record(90);
+    rec.flags = LIST_SHOW_TOOLBAR;
+    QCOMPARE(View_CreateListCtrl(&rec, A), 0);
+    XTableViewControl* t = table(90);
+    XSettingToolControl* bar = t->toolBar();
+    QVERIFY(bar);
+    QVERIFY(bar->y() + bar->height() <= t->height() + 0.5);
+    QVERIFY(t->view()->y() + t->view()->height() <= bar->y() + 0.5); // the body ends above it
+    unsigned numbers[3] = { 2000, 4, 143 };
+    QCOMPARE(View_ChangeListCtrlBrowseBoxParams(90, numbers), 0);
+    QCOMPARE(bar->totalNum(), QString("2000"));
+    QCOMPARE(bar->pageNum(), QString("4"));
+    QCOMPARE(bar->totalPageNum(), QString("143"));
+    QCOMPARE(View_ChangeListCtrlBrowseBoxParams(90, nullptr), 0);
+    QCOMPARE(bar->pageNum(), QString("4"));
+    QVERIFY(TestUtil::waitForFrame(m_panel.view()));
+    m_rec.clear();
+    const char* names[] = { "homeButton", "upButton", "nextButton", "endButton" };
+    for (const char* name : names) {
+        QQuickItem* b = TestUtil::findItem(bar, name);
+        QVERIFY2(b, name);
+        m_panel.click(m_panel.sceneCenter(b));
+    }
+    QList<int> codes;
+    for (const EventRecorder::Event& e : m_rec.events()) {
+        if (e.code == EVT_PRESS)
+            continue; // the panel's own press report
+        if (e.code > 3)
+            codes << e.code;
+        QVERIFY2(e.id == 90u, qPrintable(QString("code %1 id %2").arg(e.code).arg(e.id)));
+    }
+    QCOMPARE(codes, (QList<int> { EVT_LIST_PAGE_HOME, EVT_LIST_PAGE_UP, EVT_LIST_PAGE_NEXT, EVT_LIST_PAGE_END }));
+    // the page entry: the keyboard, then 513 with the number; the logic layer hears no 1281
+    m_rec.clear();
+    m_panel.click(m_panel.sceneCenter(TestUtil::findItem(bar, "pageButton")));
+    QVERIFY(VirtualKeyboardManager::instance()->isShown());
+    QCOMPARE(VirtualKeyboardManager::instance()->inputLine()->property("text").toString(), QString("4"));
+    typeOnKeyboard({ "clear", "1", "2", "enter" });
+    QCOMPARE(m_rec.eventsWithCode(EVT_LIST_GOTO_PAGE).size(), 1);
+    QCOMPARE(m_rec.eventsWithCode(EVT_LIST_GOTO_PAGE).first().intAt(0), 12);
+    QCOMPARE(m_rec.eventsWithCode(EVT_VKB_ENTER).size(), 0);
+    QCOMPARE(m_rec.eventsWithCode(EVT_VKB_HIDE).size(), 0);
+    QCOMPARE(bar->pageNum(), QString("4")); // until the logic layer says otherwise
+    // hidden parts
+    View_List hidden = record(91, Rect { 20, 20, 600, 200 });
+    hidden.flags = LIST_SHOW_TOOLBAR | LIST_HIDE_PAGE_BUTTONS | LIST_HIDE_TOTAL_NUM;
+    QCOMPARE(View_CreateListCtrl(&hidden, A), 0);
+    XSettingToolControl* bar2 = table(91)->toolBar();
+    QVERIFY(bar2);
+    QVERIFY(!TestUtil::findItem(bar2, "pageButtons")); // found only when shown
+    QVERIFY(!TestUtil::findItem(bar2, "totalNum"));
+    QVERIFY(TestUtil::findItem(bar2, "pageButton"));
+}
+
+void tst_Tables::cells_are_edited_through_the_keyboard_in_edit_mode()
+{
+    const View_List rec = record(100);
+    QCOMPARE(View_CreateListCtrl(&rec, A), 0);
+    XTableViewControl* t = table(100);
+    QCOMPARE(View_ChangeListCtrlContent(100, page(4, 3)), 0);
+    VirtualKeyboardManager* vkb = VirtualKeyboardManager::instance();
+    QVERIFY(TestUtil::waitForFrame(m_panel.view()));
+    // edit mode off: a press opens nothing
+    m_panel.click(cellCenter(t, 1, 1));
+    QVERIFY(!vkb->isShown());
+    QCOMPARE(View_ChangeListCtrlEditMode(100, 1), -1);
+    QCOMPARE(m_rec.eventsWithCode(EVT_LIST_EDIT_COMMIT).size(), 0); // nothing pending: nothing sent
+    // a non-editable column opens nothing either
+    m_panel.click(cellCenter(t, 1, 2));
+    QVERIFY(!vkb->isShown());
+    m_panel.click(cellCenter(t, 1, 1)); // a 32-bit column: decimal keys with its text
+    QVERIFY(vkb->isShown());
+    QCOMPARE(vkb->inputLine()->property("text").toString(), QString("b1"));
+    typeOnKeyboard({ "clear", "4", "2", "enter" });
+    QVERIFY(!vkb->isShown());
+    QCOMPARE(t->model()->cellText(1, 1), QString("42"));
+    m_panel.click(cellCenter(t, 3, 0)); // a text column: the letters
+    QVERIFY(vkb->isShown());
+    typeOnKeyboard({ "o", "k", "enter" }); // the opened text is selected: typing replaces it
+    m_panel.click(cellCenter(t, 1, 1));
+    typeOnKeyboard({ "clear", "7", "enter" });
+    m_rec.clear();
+    QCOMPARE(View_ChangeListCtrlEditMode(100, 1), -1);
+    QCOMPARE(m_rec.eventsWithCode(EVT_LIST_EDIT_COMMIT).value(0).text(), QString("1,1=7\n3,0=ok\n"));
+    QCOMPARE(m_rec.eventsWithCode(EVT_VKB_ENTER).size(), 0);
+    // mode 0 with a cell open: the keyboard goes and the cell is forgotten
+    m_panel.click(cellCenter(t, 0, 0));
+    QVERIFY(vkb->isShown());
+    QCOMPARE(View_ChangeListCtrlEditMode(100, 0), -1);
+    QVERIFY(!vkb->isShown());
+    QCOMPARE(t->view()->editingCell(), QPoint(-1, -1));
+    QCOMPARE(t->view()->editMode(), 1);
+}
+
+void tst_Tables::data_types_choose_keyboard_and_validator_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<int>("layout");
+    QTest::addColumn<int>("validator");
+    QTest::newRow("bool") << int(COL_BOOL) << 0 << 2;
+    QTest::newRow("int8") << int(COL_INT8) << 0 << 3;
+    QTest::newRow("uint64") << int(COL_UINT64) << 0 << 10;
+    QTest::newRow("float") << int(COL_FLOAT) << 0 << 20;
+    QTest::newRow("string") << int(COL_STRING) << 6 << 0;
+    QTest::newRow("uint32 alt") << int(COL_UINT32_ALT) << 0 << 8;
+    QTest::newRow("time") << int(COL_TIME) << 4 << 0;
+    QTest::newRow("date") << int(COL_DATE) << 3 << 0;
+    QTest::newRow("date-time") << int(COL_DATETIME) << 2 << 0;
+    QTest::newRow("date-time alt") << int(COL_DATETIME_ALT) << 2 << 0;
+    QTest::newRow("unknown 19") << 19 << 0 << 0;
+    QTest::newRow("negative") << -1 << 0 << 0;
+}
+
+void tst_Tables::data_types_choose_keyboard_and_validator()
+{
+    QFETCH(int, type);
+    QFETCH(int, layout);
+    QFETCH(int, validator);
+    QCOMPARE(XCommonTableView::dataTypeToVtkType(type), layout);
+    QCOMPARE(XCommonTableView::dataTypeToValidator(type), validator);
+}
+
+void tst_Tables::table_deleted_while_the_keyboard_edits_a_cell()
+{
+    const View_List rec = record(110);
+    QCOMPARE(View_CreateListCtrl(&rec, A), 0);
+    QCOMPARE(View_ChangeListCtrlContent(110, page(4, 3)), 0);
+    QCOMPARE(View_ChangeListCtrlEditMode(110, 1), -1);
+    QVERIFY(TestUtil::waitForFrame(m_panel.view()));
+    m_panel.click(cellCenter(table(110), 2, 0));
+    VirtualKeyboardManager* vkb = VirtualKeyboardManager::instance();
+    QVERIFY(vkb->isShown());
+    m_rec.clear();
+    QCOMPARE(View_DeleteWidgets({ 110u }), 0);
+    PanelFixture::settle();
+    QVERIFY(!vkb->isShown());
+    QCOMPARE(m_rec.count(), 0);
+    // the keyboard works for the logic layer again afterwards
+    QCOMPARE(View_PopupVirtualKeyboard(7, VKB_DECIMAL, "1"), 0);
+    typeOnKeyboard({ "enter" });
+    QCOMPARE(m_rec.eventsWithCode(EVT_VKB_ENTER).value(0).id, 7u);
 }
 
 QGUI_GUIAPP_TEST_MAIN(tst_Tables)

@@ -12,8 +12,28 @@ XCommonTableView::XCommonTableView(QQuickItem* parent)
 
 XCommonTableView::~XCommonTableView() = default;
 
+int XCommonTableView::dataTypeToVtkType(int dataType)
+{
+    // free text for strings, the time, date and date-time layouts for those, numbers otherwise
+    static const int layouts[19] = { 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 6, 0, 0, 4, 3, 2, 2 };
+    return dataType >= 0 && dataType < 19 ? layouts[dataType] : 0;
+}
+
+int XCommonTableView::dataTypeToValidator(int dataType)
+{
+    static const int validators[19] = { 2, 2, 3, 4, 5, 6, 7, 8, 9, 10, 20, 20, 0, 8, 10, 0, 0, 0, 0 };
+    return dataType >= 0 && dataType < 19 ? validators[dataType] : 0;
+}
+
 void XCommonTableView::setEditMode(int mode)
 {
+    if (mode == 1 && m_pending.isEmpty()) {
+        if (m_editMode != 1) {
+            m_editMode = 1;
+            Q_EMIT isEditModeChanged();
+        }
+        return;
+    }
     if (mode == 1) {
         // the edits go out in first-edit order; the texts live until the call returns
         std::vector<QByteArray> texts;

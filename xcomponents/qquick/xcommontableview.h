@@ -38,7 +38,7 @@ public:
     /**
      * 0: with no cell open the keyboard is hidden and the mode stored (isEditModeChanged when it
      * changes); with a cell open, that cell is forgotten and the keyboard hidden.
-     * 1: the pending edits are sent (event 520) and emptied, and the mode is on.
+     * 1: the pending edits, if any, are sent (event 520) and emptied, and the mode is on.
      */
     void setEditMode(int mode);
     /** Sets the cell's text at once and records the edit (see the class). */
@@ -48,6 +48,11 @@ public:
     /** The cell open for editing, (-1, -1) for none. */
     QPoint editingCell() const { return m_editing; }
     void setEditingCell(const QPoint& cell) { m_editing = cell; }
+
+    /** Keyboard layout for a column's data type code (0 for codes outside the table). */
+    static int dataTypeToVtkType(int dataType);
+    /** Validator kind for a column's data type code (0, which keeps the keyboard's, outside). */
+    static int dataTypeToValidator(int dataType);
 
     int highlightRow() const { return m_highlightRow; }
     QPoint highlightCell() const { return m_highlightCell; }

@@ -2,7 +2,9 @@
 
 #include "platform/logiclayercaller.h"
 #include "xcomponents/qquick/xcommontableview.h"
+#include "xcomponents/qquick/xqmlcomponentmanage.h"
 #include "xcomponents/qquick/xquickheadermodel.h"
+#include "xcomponents/qquick/xsettingtoolcontrol.h"
 #include "xcomponents/qquick/xtableheader.h"
 #include "xcomponents/qquick/xtablemodel.h"
 
@@ -17,6 +19,7 @@ namespace {
 constexpr int kMaxColumns = 1024;
 const char* const kCellUrl = "qrc:/list/QmlTableCell.qml";
 const char* const kHeaderCellUrl = "qrc:/list/QmlTableHeaderCell.qml";
+const char* const kToolBarUrl = "qrc:/list/QmlSettingToolDlg.qml";
 } // namespace
 
 XTableViewControl::XTableViewControl(QQuickItem* parent)
@@ -87,6 +90,26 @@ bool XTableViewControl::initialze(const Setup& setup, QQmlEngine* engine)
         return false;
     m_header->setSyncView(m_view);
     m_header->setSyncDirection(Qt::Horizontal);
+    connect(m_view.data(), &XCommonTableView::hideKeyboardRequested, this, [this] {
+        if (m_keyboardUse == KeyboardUse::Cell)
+            Q_EMIT keyboardHideRequested();
+    });
+
+    if (m_setup.toolbar) {
+        m_toolBar = qobject_cast<XSettingToolControl*>(
+            XQmlComponentManage::getInstance()->createItem(QUrl(QString::fromLatin1(kToolBarUrl)), this));
+        if (m_toolBar) {
+            m_toolBar->setWidgetId(getId());
+            m_toolBar->setHindControlBtn(m_setup.hidePageButtons);
+            m_toolBar->setHindPageNum(m_setup.hidePageNum);
+            m_toolBar->setHindTotalNum(m_setup.hideTotalNum);
+            connect(this, &XBaseControl::widgetIdChanged, m_toolBar.data(), [this] { m_toolBar->setWidgetId(getId()); });
+            connect(m_toolBar.data(), &XSettingToolControl::pageEntryRequested, this, [this](const QString& page) {
+                m_keyboardUse = KeyboardUse::PageEntry;
+                Q_EMIT keyboardRequested(0, 7, page); // decimal keys, a 32-bit number
+            });
+        }
+    }
     layoutParts();
     return true;
 }
@@ -145,10 +168,15 @@ void XTableViewControl::layoutParts()
     if (!m_view || !m_header)
         return;
     const qreal top = headerHeight();
+    const qreal bar = toolBarHeight();
     m_header->setPosition(QPointF(0, 0));
     m_header->setSize(QSizeF(width(), top));
     m_view->setPosition(QPointF(0, top));
-    m_view->setSize(QSizeF(width(), qMax<qreal>(0, height() - top)));
+    m_view->setSize(QSizeF(width(), qMax<qreal>(0, height() - top - bar)));
+    if (m_toolBar) {
+        m_toolBar->setPosition(QPointF(0, qMax<qreal>(top, height() - bar)));
+        m_toolBar->setWidth(width());
+    }
     calcColumnWidth();
     updateMinimumRows();
 }
@@ -159,6 +187,50 @@ void XTableViewControl::updateMinimumRows()
         return;
     // an empty or short page still fills the body with empty rows
     m_model->setMinimumRowCount(int(std::ceil(m_view->height() / qMax(1, rowHeight()))));
+}
+
+int XTableViewControl::toolBarHeight() const
+{
+    return m_toolBar ? int(m_toolBar->height()) : 0;
+}
+
+void XTableViewControl::setBrowseBoxParams(unsigned total, unsigned page, unsigned pages)
+{
+    if (m_toolBar)
+        m_toolBar->setNumbers(total, page, pages);
+}
+
+void XTableViewControl::openCell(const QPoint& cell)
+{
+    // in edit mode a press on an editable cell opens the keyboard for it
+    if (!m_view || m_view->editMode() != 1 || cell.x() < 0 || cell.y() < 0
+        || cell.x() >= m_setup.columns.size() || !m_setup.columns.at(cell.x()).editable)
+        return;
+    const int type = m_setup.columns.at(cell.x()).dataType;
+    m_view->setEditingCell(cell);
+    m_keyboardUse = KeyboardUse::Cell;
+    Q_EMIT keyboardRequested(XCommonTableView::dataTypeToVtkType(type),
+        XCommonTableView::dataTypeToValidator(type), m_model->cellText(cell.y(), cell.x()));
+}
+
+void XTableViewControl::acceptKeyboardText(const QString& text)
+{
+    const KeyboardUse use = m_keyboardUse;
+    m_keyboardUse = KeyboardUse::None;
+    if (use == KeyboardUse::PageEntry && m_toolBar) {
+        m_toolBar->goToPage(text);
+    } else if (use == KeyboardUse::Cell && m_view && m_view->editingCell().x() >= 0) {
+        const QPoint cell = m_view->editingCell();
+        m_view->setEditingCell(QPoint(-1, -1));
+        m_view->saveEditText(cell.y(), cell.x(), text);
+    }
+}
+
+void XTableViewControl::keyboardClosed()
+{
+    m_keyboardUse = KeyboardUse::None;
+    if (m_view)
+        m_view->setEditingCell(QPoint(-1, -1));
 }
 
 void XTableViewControl::geometryChanged(const QRectF& newGeometry, const QRectF& oldGeometry)
@@ -264,6 +336,8 @@ void XTableViewControl::sendCell(int code, const QPointF& scenePos, ulong timest
         cell.column = at.x();
     }
     LogicLayerCaller::call(getId(), code, &cell);
+    if (code == EVT_WIDGET_PRESS)
+        openCell(QPoint(cell.column, cell.row));
 }
 
 bool XTableViewControl::childMouseEventFilter(QQuickItem* item, QEvent* event)

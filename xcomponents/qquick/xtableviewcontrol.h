@@ -3,6 +3,7 @@
 
 #include "xcomponents/qquick/xbasecontrol.h"
 #include "xcomponents/qquick/xcommontableview.h"
+#include "xcomponents/qquick/xsettingtoolcontrol.h"
 #include "xcomponents/qquick/xtableheader.h"
 
 #include <QColor>
@@ -57,6 +58,10 @@ public:
         bool filter = false;
         bool singleLine = false;
         bool selectRow = false;
+        bool toolbar = false; /**< the paging bar under the body */
+        bool hidePageButtons = false;
+        bool hidePageNum = false;
+        bool hideTotalNum = false;
         int headerHeight = 0; /**< <= 0: from the header font */
         int rowHeight = 0; /**< <= 0: from the content font */
         QFont headerFont;
@@ -82,6 +87,15 @@ public:
     XTableHeader* header() const { return m_header; }
     XCommonTableView* view() const { return m_view; }
     XTableModel* model() const { return m_model; }
+    /** The paging bar, or null without one. */
+    XSettingToolControl* toolBar() const { return m_toolBar; }
+    /** The paging bar's numbers: total records, current page, total pages. */
+    void setBrowseBoxParams(unsigned total, unsigned page, unsigned pages);
+
+    /** The text the keyboard confirmed for what asked it (the page entry or the open cell). */
+    Q_INVOKABLE void acceptKeyboardText(const QString& text);
+    /** The keyboard hid: an open cell is forgotten. */
+    Q_INVOKABLE void keyboardClosed();
     int columnCount() const { return m_setup.columns.size(); }
     const Column& column(int c) const { return m_setup.columns.at(c); }
 
@@ -107,6 +121,13 @@ public:
     /** Sends 522 when \a moving, 521 when not, on every change. */
     void setIsMoving(bool moving);
 
+Q_SIGNALS:
+    /** The table needs the keyboard (page entry, or a cell in edit mode). */
+    void keyboardRequested(int layout, int validator, const QString& text);
+    /** The keyboard opened for this table should go. */
+    void keyboardHideRequested();
+
+public:
     /** Column widths as laid out now (0 for hidden columns). */
     QVector<qreal> getActualColumnWidth() const;
     int rowHeight() const;
@@ -124,6 +145,10 @@ private:
     void layoutParts();
     void updateMinimumRows();
     void sendCell(int code, const QPointF& scenePos, ulong timestamp);
+    void openCell(const QPoint& cell);
+    int toolBarHeight() const;
+
+    enum class KeyboardUse { None, PageEntry, Cell };
 
     /** The press or release sent last. */
     struct SentPress {
@@ -138,6 +163,8 @@ private:
     QPointer<XCommonTableView> m_view;
     bool m_moving = false;
     SentPress m_lastSent;
+    QPointer<XSettingToolControl> m_toolBar;
+    KeyboardUse m_keyboardUse = KeyboardUse::None;
 };
 
 #endif // XTABLEVIEWCONTROL_H
