@@ -17,7 +17,8 @@ namespace {
 const unsigned kTable = 500;
 const unsigned kDb = 1;
 const unsigned kQueryPage = 1;
-const int kPageRows = 14;
+const int kPageRows = 12;
+const int kPages = (2000 + kPageRows - 1) / kPageRows;
 const int kRecipes = 2000;
 unsigned g_window = 0;
 bool g_built = false;
@@ -47,7 +48,10 @@ void showPage(const std::vector<std::vector<std::string>>& rows)
 
 void requestPage(int page)
 {
+    page = page < 0 ? 0 : page >= kPages ? kPages - 1 : page;
     g_page = page;
+    unsigned numbers[3] = { unsigned(kRecipes), unsigned(page + 1), unsigned(kPages) };
+    View_ChangeListCtrlBrowseBoxParams(kTable, numbers); // the bar shows what the logic layer says
     const std::string sql = "SELECT no, name, printf('%.2f', sugar), printf('%.1f', water), changed FROM recipe "
                             "ORDER BY no LIMIT "
         + std::to_string(kPageRows) + " OFFSET " + std::to_string(page * kPageRows);
@@ -100,7 +104,7 @@ void build(unsigned windowId)
     l.id = kTable;
     l.columns = kColumns;
     l.columnCount = 5;
-    l.flags = LIST_SELECT_ROW | LIST_SINGLE_LINE;
+    l.flags = LIST_SELECT_ROW | LIST_SINGLE_LINE | LIST_SHOW_TOOLBAR;
     l.headerHeight = 44;
     l.rowHeight = 36;
     l.headerFont = &g_headerFont;
@@ -118,11 +122,33 @@ bool onEvent(unsigned id, int code, void* data)
 {
     if (id != kTable)
         return false;
-    if (code == EVT_WIDGET_RELEASE && data) {
-        // the logic layer owns the selection: the released row is highlighted
-        const auto* cell = static_cast<const View_EvtCell*>(data);
-        if (cell->row >= 0)
-            View_ChangeListCtrlSel(kTable, cell->row, cell->column);
+    switch (code) {
+    case EVT_WIDGET_RELEASE:
+        if (data) {
+            // the logic layer owns the selection: the released row is highlighted
+            const auto* cell = static_cast<const View_EvtCell*>(data);
+            if (cell->row >= 0)
+                View_ChangeListCtrlSel(kTable, cell->row, cell->column);
+        }
+        break;
+    case EVT_LIST_PAGE_HOME:
+        requestPage(0);
+        break;
+    case EVT_LIST_PAGE_UP:
+        requestPage(g_page - 1);
+        break;
+    case EVT_LIST_PAGE_NEXT:
+        requestPage(g_page + 1);
+        break;
+    case EVT_LIST_PAGE_END:
+        requestPage(kPages - 1);
+        break;
+    case EVT_LIST_GOTO_PAGE:
+        if (data)
+            requestPage(*static_cast<const int*>(data) - 1); // the bar counts from 1
+        break;
+    default:
+        break;
     }
     return true;
 }
@@ -138,7 +164,8 @@ bool scriptStep(int n, void (*shot)(const char* name))
     case 2: {
         View_EvtCell cell { 4, 1 }; // the operator touches the fifth recipe
         onEvent(kTable, EVT_WIDGET_RELEASE, &cell);
-        requestPage(3); // and turns to the fourth page: the highlight stays on its row
+        int page = 4; // and types page 4 in the paging bar: the highlight stays on its row
+        onEvent(kTable, EVT_LIST_GOTO_PAGE, &page);
         return true;
     }
     case 3:

@@ -42,10 +42,10 @@ XSettingToolControl {
         x: 4
         anchors.verticalCenter: parent.verticalCenter
         spacing: 6
-        PageButton { objectName: "homeButton"; glyph: "\u23ee"; onClicked: bar.home() }
+        PageButton { objectName: "homeButton"; glyph: "|\u25c0"; onClicked: bar.home() }
         PageButton { objectName: "upButton"; glyph: "\u25c0"; onClicked: bar.up() }
         PageButton { objectName: "nextButton"; glyph: "\u25b6"; onClicked: bar.next() }
-        PageButton { objectName: "endButton"; glyph: "\u23ed"; onClicked: bar.end() }
+        PageButton { objectName: "endButton"; glyph: "\u25b6|"; onClicked: bar.end() }
     }
 
     Row {

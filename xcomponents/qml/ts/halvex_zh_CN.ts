@@ -9,6 +9,13 @@
     </message>
 </context>
 <context>
+    <name>QmlSettingToolDlg</name>
+    <message>
+        <source>Total</source>
+        <translation>总数</translation>
+    </message>
+</context>
+<context>
     <name>StartEndDateTimePopup</name>
     <message>
         <source>Setting</source>
