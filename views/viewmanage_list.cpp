@@ -51,6 +51,7 @@ XTableViewControl::Setup toSetup(const View_List& rec, bool forceSingleLine)
     s.singleLine = forceSingleLine || (rec.flags & LIST_SINGLE_LINE);
     s.selectRow = rec.flags & LIST_SELECT_ROW;
     s.toolbar = rec.flags & LIST_SHOW_TOOLBAR;
+    s.scrollBar = !(rec.flags & LIST_HIDE_SCROLLBAR);
     s.hidePageButtons = rec.flags & LIST_HIDE_PAGE_BUTTONS;
     s.hidePageNum = rec.flags & LIST_HIDE_PAGE_NUM;
     s.hideTotalNum = rec.flags & LIST_HIDE_TOTAL_NUM;

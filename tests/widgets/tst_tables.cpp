@@ -42,6 +42,7 @@ private Q_SLOTS:
     void data_types_choose_keyboard_and_validator_data();
     void data_types_choose_keyboard_and_validator();
     void table_deleted_while_the_keyboard_edits_a_cell();
+    void flicking_reports_moving_and_the_scroll_bar_follows();
     void bad_pages_are_cut_not_trusted();
 
 private:
@@ -573,6 +574,35 @@ void tst_Tables::table_deleted_while_the_keyboard_edits_a_cell()
     QCOMPARE(View_PopupVirtualKeyboard(7, VKB_DECIMAL, "1"), 0);
     typeOnKeyboard({ "enter" });
     QCOMPARE(m_rec.eventsWithCode(EVT_VKB_ENTER).value(0).id, 7u);
+}
+
+void tst_Tables::flicking_reports_moving_and_the_scroll_bar_follows()
+{
+    const View_List rec = record(120);
+    QCOMPARE(View_CreateListCtrl(&rec, A), 0);
+    XTableViewControl* t = table(120);
+    QCOMPARE(View_ChangeListCtrlContent(120, page(300, 3)), 0);
+    QVERIFY(t->scrollBar());
+    QVERIFY(TestUtil::waitForFrame(m_panel.view()));
+    m_rec.clear();
+    // a finger drags the body up
+    const QPoint from = cellCenter(t, 6, 1);
+    m_panel.press(from);
+    for (int i = 1; i <= 12; ++i) {
+        QTest::mouseMove(m_panel.view(), from - QPoint(0, i * 15));
+        QTest::qWait(10);
+    }
+    m_panel.release(from - QPoint(0, 180));
+    QTRY_VERIFY(!t->view()->isMoving());
+    QVERIFY(t->view()->contentY() > 0);
+    QCOMPARE(m_rec.eventsWithCode(EVT_LIST_MOVE_START).size(), 1);
+    QCOMPARE(m_rec.eventsWithCode(EVT_LIST_MOVE_END).size(), 1);
+    QVERIFY(t->scrollBar()->property("position").toReal() > 0);
+    // without a scroll bar
+    View_List bare = record(121);
+    bare.flags = LIST_HIDE_SCROLLBAR;
+    QCOMPARE(View_CreateListCtrl(&bare, A), 0);
+    QVERIFY(!table(121)->scrollBar());
 }
 
 QGUI_GUIAPP_TEST_MAIN(tst_Tables)

@@ -8,6 +8,8 @@
 #include "xcomponents/qquick/xtableheader.h"
 #include "xcomponents/qquick/xtablemodel.h"
 
+#include <QtQuickTemplates2/private/qquickscrollbar_p.h>
+
 #include <QFontMetrics>
 #include <QMouseEvent>
 #include <QQmlEngine>
@@ -20,6 +22,7 @@ constexpr int kMaxColumns = 1024;
 const char* const kCellUrl = "qrc:/list/QmlTableCell.qml";
 const char* const kHeaderCellUrl = "qrc:/list/QmlTableHeaderCell.qml";
 const char* const kToolBarUrl = "qrc:/list/QmlSettingToolDlg.qml";
+const char* const kScrollBarUrl = "qrc:/list/QmlTableScrollBar.qml";
 } // namespace
 
 XTableViewControl::XTableViewControl(QQuickItem* parent)
@@ -95,6 +98,19 @@ bool XTableViewControl::initialze(const Setup& setup, QQmlEngine* engine)
             Q_EMIT keyboardHideRequested();
     });
 
+    if (m_setup.scrollBar) {
+        // attached to the body as QML's ScrollBar.vertical: it follows and moves the body
+        auto* bar = qobject_cast<QQuickScrollBar*>(
+            XQmlComponentManage::getInstance()->createItem(QUrl(QString::fromLatin1(kScrollBarUrl)), m_view));
+        auto* attached
+            = qobject_cast<QQuickScrollBarAttached*>(qmlAttachedPropertiesObject<QQuickScrollBar>(m_view, true));
+        if (bar && attached) {
+            attached->setVertical(bar);
+            m_scrollBar = bar;
+        } else {
+            delete bar;
+        }
+    }
     if (m_setup.toolbar) {
         m_toolBar = qobject_cast<XSettingToolControl*>(
             XQmlComponentManage::getInstance()->createItem(QUrl(QString::fromLatin1(kToolBarUrl)), this));

@@ -59,6 +59,7 @@ public:
         bool singleLine = false;
         bool selectRow = false;
         bool toolbar = false; /**< the paging bar under the body */
+        bool scrollBar = true; /**< the vertical scroll bar of the body */
         bool hidePageButtons = false;
         bool hidePageNum = false;
         bool hideTotalNum = false;
@@ -89,6 +90,8 @@ public:
     XTableModel* model() const { return m_model; }
     /** The paging bar, or null without one. */
     XSettingToolControl* toolBar() const { return m_toolBar; }
+    /** The body's vertical scroll bar, or null without one. */
+    QQuickItem* scrollBar() const { return m_scrollBar; }
     /** The paging bar's numbers: total records, current page, total pages. */
     void setBrowseBoxParams(unsigned total, unsigned page, unsigned pages);
 
@@ -164,6 +167,7 @@ private:
     bool m_moving = false;
     SentPress m_lastSent;
     QPointer<XSettingToolControl> m_toolBar;
+    QPointer<QQuickItem> m_scrollBar;
     KeyboardUse m_keyboardUse = KeyboardUse::None;
 };
 

@@ -5,7 +5,9 @@ import QtQuick 2.15
 // when the view asks for single lines), and the grid on its right and bottom.
 Rectangle {
     id: cell
-    color: backColor
+    // the cell's roles (absent when the file is loaded on its own)
+    readonly property var roles: typeof model !== "undefined" ? model : ({})
+    color: roles.backColor !== undefined ? roles.backColor : "white"
     clip: true
 
     readonly property var view: TableView.view
@@ -13,8 +15,8 @@ Rectangle {
 
     Image {
         id: picture
-        visible: image !== ""
-        source: image
+        visible: source != ""
+        source: cell.roles.image !== undefined ? cell.roles.image : ""
         x: 4
         anchors.verticalCenter: parent.verticalCenter
         height: Math.max(0, parent.height - 8)
@@ -28,11 +30,11 @@ Rectangle {
         y: 2
         width: parent.width - x - 4 - cell.grid
         height: parent.height - 4 - cell.grid
-        text: textVisible ? display : ""
-        color: textColor
-        font: cellFont
-        horizontalAlignment: (cellAlign & 0x0F) || Text.AlignHCenter
-        verticalAlignment: (cellAlign & 0xE0) || Text.AlignVCenter
+        text: cell.roles.textVisible && cell.roles.display !== undefined ? cell.roles.display : ""
+        color: cell.roles.textColor !== undefined ? cell.roles.textColor : "black"
+        font: cell.roles.cellFont !== undefined ? cell.roles.cellFont : Qt.application.font
+        horizontalAlignment: (cell.roles.cellAlign & 0x0F) || Text.AlignHCenter
+        verticalAlignment: (cell.roles.cellAlign & 0xE0) || Text.AlignVCenter
         wrapMode: cell.view && cell.view.singleLine ? Text.NoWrap : Text.Wrap
         maximumLineCount: cell.view && cell.view.singleLine ? 1 : 100
         elide: Text.ElideRight

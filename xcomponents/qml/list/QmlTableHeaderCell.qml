@@ -4,7 +4,9 @@ import QtQuick 2.15
 // the column whose sort or filter is on is underlined.
 Rectangle {
     id: cell
-    color: backColor
+    // the title's roles (absent when the file is loaded on its own)
+    readonly property var roles: typeof model !== "undefined" ? model : ({})
+    color: roles.backColor !== undefined ? roles.backColor : "#537bad"
     clip: true
 
     readonly property var view: TableView.view
@@ -14,15 +16,15 @@ Rectangle {
         x: 4
         width: parent.width - 8 - cell.grid
         height: parent.height
-        text: display
-        color: textColor
-        font: cellFont
+        text: cell.roles.display !== undefined ? cell.roles.display : ""
+        color: cell.roles.textColor !== undefined ? cell.roles.textColor : "white"
+        font: cell.roles.cellFont !== undefined ? cell.roles.cellFont : Qt.application.font
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight
     }
     Rectangle {
-        visible: checked
+        visible: cell.roles.checked === true
         anchors.bottom: parent.bottom
         x: 4
         width: parent.width - 8
