@@ -16,13 +16,19 @@
 #include "xcomponents/qquick/xdisenableicon.h"
 #include "xcomponents/qquick/xinvalidfeature.h"
 #include "xcomponents/qquick/xlineinputtext.h"
+#include "xcomponents/qquick/xlistviewcontrol.h"
 #include "xcomponents/qquick/xlumodialog.h"
 #include "xcomponents/qquick/xpinyinboard.h"
 #include "xcomponents/qquick/xpinyindlg.h"
 #include "xcomponents/qquick/xqrcode.h"
+#include "xcomponents/qquick/nquicktreeview.h"
+#include "xcomponents/qquick/treemodel.h"
+#include "xcomponents/qquick/xquickcombobox.h"
 #include "xcomponents/qquick/xquickimage.h"
 #include "xcomponents/qquick/xquicktextedit.h"
 #include "xcomponents/qquick/xtextedit.h"
+#include "xcomponents/qquick/xtreeview.h"
+#include "xcomponents/qquick/xtreeviewcontrol.h"
 #include "xcomponents/qquick/xtumblertimemodel.h"
 #include "xcomponents/qquick/xwindow.h"
 
@@ -73,4 +79,12 @@ void registerQmlTypes()
     // Date and time: the clock field and the picker's tumbler columns
     qmlRegisterType<XDateTimeEdit>(uri, 1, 0, "XDateTimeEdit");
     qmlRegisterType<XTumblerTimeModel>(uri, 1, 0, "XTumblerTimeModel");
+
+    // Menus: the drop-down box and its contents
+    qmlRegisterType<XQuickComboBox>(uri, 1, 0, "XQuickComboBox");
+    qmlRegisterType<XListViewControl>(uri, 1, 0, "XListViewControl");
+    qmlRegisterType<XTreeview>(uri, 1, 0, "XTreeview");
+    qmlRegisterType<TreeModel>(uri, 1, 0, "TreeModel");
+    qmlRegisterType<XTreeViewControl>(uri, 1, 0, "XTreeViewControl");
+    qmlRegisterType<NQuickTreeView>(uri, 1, 0, "NQuickTreeView");
 }

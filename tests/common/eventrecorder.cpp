@@ -37,6 +37,9 @@ int EventRecorder::payloadSize(int code)
     switch (code) {
     case 1:
         return 2 * sizeof(int); // x, y
+    case 2:
+    case 3:
+        return sizeof(int); // the row of a list or tree entry (the first of a table's two); most send none
     case 4:
         return sizeof(double); // slider value
     case 259:
