@@ -46,6 +46,8 @@ private Q_SLOTS:
     void select_sets_the_display_text_data();
     void select_sets_the_display_text();
     void box_and_open_list_are_visible_on_screen();
+    void closing_the_window_or_deleting_the_box_closes_the_pop_up_data();
+    void closing_the_window_or_deleting_the_box_closes_the_pop_up();
 
 private:
     View_Menu menu(unsigned id, Rect r = Rect { 100, 100, 200, 36 }, unsigned flags = 0) const;
@@ -367,6 +369,32 @@ void tst_Menu::box_and_open_list_are_visible_on_screen()
     // the current entry (second row) is highlighted in the open pop-up, the others are not
     QCOMPARE(pixel(list(17), QPointF(190, 45)), QColor(0, 255, 0));
     QCOMPARE(pixel(list(17), QPointF(190, 15)), QColor(255, 255, 255));
+}
+
+void tst_Menu::closing_the_window_or_deleting_the_box_closes_the_pop_up_data()
+{
+    QTest::addColumn<bool>("deleteBox");
+    QTest::newRow("window closed") << false;
+    QTest::newRow("box deleted") << true;
+}
+
+void tst_Menu::closing_the_window_or_deleting_the_box_closes_the_pop_up()
+{
+    QFETCH(bool, deleteBox);
+    const View_Menu m = menu(18);
+    QCOMPARE(View_CreateMenuUser(reinterpret_cast<const View_MenuUser*>(&m), A), 0);
+    fill(18, 3);
+    QCOMPARE(View_MenuPopupDropdownBox(18), 0);
+    XOverlay* overlay = box(18)->popup()->overlay();
+    QVERIFY(overlay);
+    QCOMPARE(overlay->openCount(), 1);
+    if (deleteBox)
+        QCOMPARE(View_DeleteWidgets({ 18u }), 0);
+    else
+        QCOMPARE(View_CloseWindow(A), 0);
+    PanelFixture::settle();
+    QCOMPARE(overlay->openCount(), 0); // the panel takes presses again
+    QVERIFY(TestUtil::waitForFrame(m_panel.view()));
 }
 
 QGUI_GUIAPP_TEST_MAIN(tst_Menu)

@@ -180,3 +180,11 @@ void XQuickComboBox::touchEvent(QTouchEvent* event)
         released();
     event->accept();
 }
+
+void XQuickComboBox::itemChange(ItemChange change, const ItemChangeData& data)
+{
+    XBaseControl::itemChange(change, data);
+    if ((change == ItemVisibleHasChanged && !data.boolValue) || (change == ItemParentHasChanged && !data.item)
+        || (change == ItemSceneChange && !data.window))
+        m_popup->close();
+}

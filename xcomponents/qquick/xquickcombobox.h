@@ -91,6 +91,8 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void touchEvent(QTouchEvent* event) override;
+    /** A box hidden or taken out of its window (window closed, widget deleted) closes its pop-up. */
+    void itemChange(ItemChange change, const ItemChangeData& data) override;
 
 private:
     /** Press (true) or release (false) on the box while the pop-up is closed: event 3 - flag. */
