@@ -69,9 +69,18 @@ int rowHeightFor(const View_Menu* rec, const QFont& font)
 /** The pop-up's height when the record gives none: the entries up to kFitRows, at least one row. */
 void fitPopup(XQuickComboBox* box, int rows, int rowHeight, int border)
 {
-    if (!box->property("popFit").toBool())
+    if (!box->fitsEntries())
         return;
     box->setPopHeight(qBound(1, rows, kFitRows) * rowHeight + 2 * border);
+}
+
+/** The picture of a project path; empty for none or for a path naming no picture. */
+QUrl pictureUrl(const char* path)
+{
+    if (!path || !*path)
+        return QUrl();
+    const QUrl url = PictureCacheManage::getInstance()->getUrl(Core::fromString(path));
+    return url.isValid() ? url : QUrl();
 }
 
 void styleList(XListViewControl* list, const View_Menu* rec, const QFont& font)
@@ -84,19 +93,7 @@ void styleList(XListViewControl* list, const View_Menu* rec, const QFont& font)
     list->setFrameColor(Core::toQColor(rec->frameColor));
     list->setBorderWidth(rec->borderWidth);
     list->setRowHeight(rowHeightFor(rec, font));
-    if (rec->bgImage && *rec->bgImage) {
-        const QUrl url = PictureCacheManage::getInstance()->getUrl(Core::fromString(rec->bgImage));
-        if (url.isValid())
-            list->setBgImage(url);
-    }
-}
-
-QUrl pictureUrl(const char* path)
-{
-    if (!path || !*path)
-        return QUrl();
-    const QUrl url = PictureCacheManage::getInstance()->getUrl(Core::fromString(path));
-    return url.isValid() ? url : QUrl();
+    list->setBgImage(pictureUrl(rec->bgImage));
 }
 
 QQuickItem* createTree(const View_Menu* rec, QQuickItem* parent, const QFont& font)
@@ -222,7 +219,7 @@ int ViewManage::View_CreateCombobox(const View_Menu* rec, unsigned int windowId)
         box->setFontColor(Core::toQColor(rec->font->color));
     if (rec->layout)
         box->setDisplayTextAlign(rec->layout->align, rec->layout->hMargin);
-    box->setProperty("popFit", rec->popHeight <= 0);
+    box->setFitsEntries(rec->popHeight <= 0);
     if (rec->popHeight > 0)
         box->setPopHeight(qMin(rec->popHeight, 1 << 16));
     else

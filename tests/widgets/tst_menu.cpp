@@ -46,6 +46,7 @@ private Q_SLOTS:
     void select_sets_the_display_text_data();
     void select_sets_the_display_text();
     void box_and_open_list_are_visible_on_screen();
+    void pop_up_height_follows_the_entries_when_unset();
     void closing_the_window_or_deleting_the_box_closes_the_pop_up_data();
     void closing_the_window_or_deleting_the_box_closes_the_pop_up();
 
@@ -369,6 +370,18 @@ void tst_Menu::box_and_open_list_are_visible_on_screen()
     // the current entry (second row) is highlighted in the open pop-up, the others are not
     QCOMPARE(pixel(list(17), QPointF(190, 45)), QColor(0, 255, 0));
     QCOMPARE(pixel(list(17), QPointF(190, 15)), QColor(255, 255, 255));
+}
+
+void tst_Menu::pop_up_height_follows_the_entries_when_unset()
+{
+    View_Menu m = menu(19);
+    m.popHeight = 0;
+    QCOMPARE(View_CreateMenuAlarmLevel(reinterpret_cast<const View_MenuAlarmLevel*>(&m), A), 0);
+    QCOMPARE(box(19)->popHeight(), 1 * 30 + 2); // room for one row while empty
+    fill(19, 3);
+    QCOMPARE(box(19)->popHeight(), 3 * 30 + 2);
+    fill(19, 50);
+    QCOMPARE(box(19)->popHeight(), 8 * 30 + 2); // longer lists scroll
 }
 
 void tst_Menu::closing_the_window_or_deleting_the_box_closes_the_pop_up_data()

@@ -50,6 +50,9 @@ public:
     int popHeight() const { return m_popHeight; }
     /** Height of the pop-up in pixels (at least 1). */
     void setPopHeight(int height);
+    /** True when the pop-up's height follows the number of entries (set by the creator). */
+    bool fitsEntries() const { return m_fitsEntries; }
+    void setFitsEntries(bool fits) { m_fitsEntries = fits; }
     QColor fontColor() const { return m_fontColor; }
     Q_INVOKABLE void setFontColor(const QColor& color);
     QColor boxColor() const { return m_boxColor; }
@@ -111,6 +114,7 @@ private:
     int m_hAlign = Qt::AlignLeft;
     int m_vAlign = Qt::AlignVCenter;
     int m_margin = 4;
+    bool m_fitsEntries = false;
     bool m_pressedWhileOpen = false;
     bool m_pressed = false;
 };
