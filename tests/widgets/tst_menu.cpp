@@ -47,6 +47,8 @@ private Q_SLOTS:
     void select_sets_the_display_text();
     void box_and_open_list_are_visible_on_screen();
     void pop_up_height_follows_the_entries_when_unset();
+    void content_takes_any_texts_data();
+    void content_takes_any_texts();
     void closing_the_window_or_deleting_the_box_closes_the_pop_up_data();
     void closing_the_window_or_deleting_the_box_closes_the_pop_up();
 
@@ -382,6 +384,41 @@ void tst_Menu::pop_up_height_follows_the_entries_when_unset()
     QCOMPARE(box(19)->popHeight(), 3 * 30 + 2);
     fill(19, 50);
     QCOMPARE(box(19)->popHeight(), 8 * 30 + 2); // longer lists scroll
+}
+
+void tst_Menu::content_takes_any_texts_data()
+{
+    QTest::addColumn<QByteArray>("text"); // every entry's text; "<null>" for a null pointer
+    QTest::addColumn<int>("count");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("empty list") << QByteArray("x") << 0 << QString();
+    QTest::newRow("null texts are empty") << QByteArray("<null>") << 2 << QString();
+    QTest::newRow("invalid utf-8") << QByteArray("\xc3(\xff") << 2 << QString::fromUtf8("\xc3(\xff");
+    QTest::newRow("megabyte texts are cut") << QByteArray(1 << 20, 'm') << 3 << QString(4095, 'm') + QChar(0x2026);
+    QTest::newRow("10000 entries") << QByteArray("e") << 10000 << QStringLiteral("e");
+}
+
+void tst_Menu::content_takes_any_texts()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(int, count);
+    QFETCH(QString, shown);
+    const View_Menu m = menu(25);
+    QCOMPARE(View_CreateMenuConst(reinterpret_cast<const View_MenuConst*>(&m), A), 0);
+    const char* p = text == "<null>" ? nullptr : text.constData();
+    const std::list<View_Text> entries(size_t(count), View_Text { 0, Rect {}, 0, p, nullptr, nullptr });
+    QCOMPARE(View_ChangeMenuContent(25, entries), 0);
+    QCOMPARE(list(25)->count(), count);
+    if (count > 0)
+        QCOMPARE(list(25)->entries().constLast(), shown);
+    QCOMPARE(View_MenuPopupDropdownBox(25), 0);
+    XListViewControl* l = list(25);
+    l->setContentY(1e12); // scrolled to the end (when the entries need it), the last entry is the last row
+    QVERIFY(TestUtil::waitForFrame(m_panel.view()));
+    const bool scrolls = count * 30 > l->height() - 2;
+    QCOMPARE(l->contentY(), scrolls ? count * 30 - (l->height() - 2) : 0.0);
+    if (count > 0)
+        QCOMPARE(l->indexAt(QPointF(10, scrolls ? l->height() - 5 : 1 + (count - 1) * 30 + 15)), count - 1);
 }
 
 void tst_Menu::closing_the_window_or_deleting_the_box_closes_the_pop_up_data()
