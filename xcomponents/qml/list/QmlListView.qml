@@ -27,7 +27,8 @@ XListViewControl {
         anchors.margins: root.borderWidth
         clip: true
         interactive: false
-        model: root.entries
+        // rows are made only while the list can be seen (a closed pop-up makes none)
+        model: root.visible ? root.entries : []
         delegate: Rectangle {
             objectName: "listEntry" + index
             width: list.width
