@@ -22,13 +22,19 @@
 #include "xcomponents/qquick/xdisenableicon.h"
 #include "xcomponents/qquick/xinvalidfeature.h"
 #include "xcomponents/qquick/xlineinputtext.h"
+#include "xcomponents/qquick/xlistviewcontrol.h"
 #include "xcomponents/qquick/xlumodialog.h"
 #include "xcomponents/qquick/xpinyinboard.h"
 #include "xcomponents/qquick/xpinyindlg.h"
 #include "xcomponents/qquick/xqrcode.h"
+#include "xcomponents/qquick/nquicktreeview.h"
+#include "xcomponents/qquick/treemodel.h"
+#include "xcomponents/qquick/xquickcombobox.h"
 #include "xcomponents/qquick/xquickimage.h"
 #include "xcomponents/qquick/xquicktextedit.h"
 #include "xcomponents/qquick/xtextedit.h"
+#include "xcomponents/qquick/xtreeview.h"
+#include "xcomponents/qquick/xtreeviewcontrol.h"
 #include "xcomponents/qquick/xtumblertimemodel.h"
 #include "xcomponents/qquick/xwindow.h"
 
@@ -87,4 +93,11 @@ void registerQmlTypes()
     qmlRegisterType<XTableHeader>(uri, 1, 0, "XTableHeader");
     qmlRegisterType<XTableModel>(uri, 1, 0, "XTableModel");
     qmlRegisterType<XSettingToolControl>(uri, 1, 0, "XSettingToolControl");
+    // Menus: the drop-down box and its contents
+    qmlRegisterType<XQuickComboBox>(uri, 1, 0, "XQuickComboBox");
+    qmlRegisterType<XListViewControl>(uri, 1, 0, "XListViewControl");
+    qmlRegisterType<XTreeview>(uri, 1, 0, "XTreeview");
+    qmlRegisterType<TreeModel>(uri, 1, 0, "TreeModel");
+    qmlRegisterType<XTreeViewControl>(uri, 1, 0, "XTreeViewControl");
+    qmlRegisterType<NQuickTreeView>(uri, 1, 0, "NQuickTreeView");
 }

@@ -272,6 +272,9 @@ public:
     int View_CreateMenuUser(const View_MenuUser* rec, unsigned int windowId);
     int View_CreateMenuVar(const View_MenuVar* rec, unsigned int windowId);
     int View_MenuPopupDropdownBox(unsigned int id);
+    /** The one creator of the seven menu kinds: the drop-down box, or with MENU_IN_PLACE the content
+     *  view alone; -1 for a null record or an unknown window. */
+    int View_CreateCombobox(const View_Menu* rec, unsigned int windowId);
 
     // ---- datetime: date and time (app/layer_view_datetime.cpp, views/viewmanage_datetime.cpp)
     int View_CreateInputClock(const View_InputClock* rec, unsigned int windowId);

@@ -4,6 +4,7 @@
 
 #include "entryscreen.h"
 #include "recipescreen.h"
+#include "menuscreen.h"
 
 #include <csignal>
 #include <cstdio>
@@ -142,6 +143,7 @@ void showWindow(unsigned windowId)
         cam.rect = Rect { 620, 60, 360, 240 };
         cam.id = 900;
         View_CreateCameraIP(&cam, kWindow2);
+        MenuScreen::build(kWindow2); // the menu screen (menuscreen.cpp) shares window 2
     }
 }
 
@@ -226,6 +228,8 @@ ErrRet onEvent(unsigned id, int code, void* data)
     std::printf("\n");
     std::fflush(stdout);
     if (EntryScreen::onEvent(id, code, data) || RecipeScreen::onEvent(id, code, data))
+        return 0;
+    if (MenuScreen::onEvent(id, code, data))
         return 0;
     if (code == EVT_POPUP_CLOSE && id == kPopup)
         closePopup(); // the close button only reports: closing is the logic layer's decision

@@ -445,15 +445,18 @@ QGUI_EXPORT int View_CreateListAlarmBar(const View_listAlarmBar* rec, unsigned i
 
 /* ---- menus ---- */
 
-/** Replaces the entries of a flat menu; 0, or -1 for an unknown id. */
+/** Replaces the entries of a flat menu (texts cut to 4096 characters); 0, or -1 for an unknown id or a tree
+ * menu. */
 QGUI_EXPORT int View_ChangeMenuContent(unsigned int id, const std::list<View_Text>& entries);
-/** Sets the box's display text (and image, may be null) for the chosen entry `index`; 0, or -1 for an unknown
- * id. */
+/** Highlights entry `index` of a flat menu and sets the box's display text from `text` (null keeps the
+ * text; the image is not shown and may be null); 0, or -1 for an unknown id or a tree menu. */
 QGUI_EXPORT int View_ChangeMenuSelect(
     unsigned int id, int index, const View_Image* image, const View_Text* text);
-/** Rebuilds a tree menu's content from its root node; 0, or -1 for an unknown id. */
+/** Rebuilds a tree menu's content from its root node (null empties it; cycles and null child arrays are
+ * skipped; at most 200,000 nodes); 0, or -1 for an unknown id or a flat menu. */
 QGUI_EXPORT int View_ChangeMenuTreeContent(unsigned int id, const View_TreeNode* root);
-/** Sets a tree menu's current entry and the box's display text; 0, or -1 for an unknown id. */
+/** Sets a tree menu's current entry (a node's `index`) and the box's display text (null keeps it); 0, or -1
+ * for an unknown id or a flat menu. */
 QGUI_EXPORT int View_ChangeMenuTreeSelect(unsigned int id, int index, const View_Text* text);
 /** Creates a menu of alarm levels. */
 QGUI_EXPORT int View_CreateMenuAlarmLevel(const View_MenuAlarmLevel* rec, unsigned int windowId);
@@ -469,7 +472,7 @@ QGUI_EXPORT int View_CreateMenuTreeAlarmGrp(const View_MenuTreeAlarmGrp* rec, un
 QGUI_EXPORT int View_CreateMenuUser(const View_MenuUser* rec, unsigned int windowId);
 /** Creates a menu of variable values. */
 QGUI_EXPORT int View_CreateMenuVar(const View_MenuVar* rec, unsigned int windowId);
-/** Opens a drop-down menu's pop-up; 0, or -1 for an unknown id. */
+/** Opens a drop-down menu's pop-up under its box; 0, or -1 for an unknown id or an in-place menu. */
 QGUI_EXPORT int View_MenuPopupDropdownBox(unsigned int id);
 
 /* ---- date and time ---- */

@@ -88,7 +88,7 @@ ErrRet EventRecorder::callBack(unsigned id, int code, void* data)
             e.payload += QByteArray::number(edit.row) + ',' + QByteArray::number(edit.column) + '='
                 + QByteArray(edit.text ? edit.text : "") + '\n';
     } else if (data) {
-        int n = (code == 2 || code == 3) ? g_current->m_pressPayload : payloadSize(code);
+        const int n = (code == 2 || code == 3) ? g_current->m_pressPayload : payloadSize(code);
         if (n < 0)
             e.payload = QByteArray(static_cast<const char*>(data));
         else if (n > 0)

@@ -35,8 +35,8 @@ public:
     /** Bytes of payload copied for \a code: -1 means a NUL-terminated string. */
     static int payloadSize(int code);
 
-    /** Bytes copied for presses and releases (codes 2 and 3), which differ by widget: 0 (the
-     *  default) for none, 8 for a table's cell. */
+    /** Bytes copied for presses and releases (codes 2 and 3), which differ by widget: 4 (the
+     *  default) for the index of a list or tree entry, 8 for a table's cell. */
     void setPressPayloadSize(int bytes) { m_pressPayload = bytes; }
 
     QList<Event> events() const;
@@ -47,7 +47,7 @@ public:
 private:
     mutable QMutex m_mutex;
     QList<Event> m_events;
-    int m_pressPayload = 0;
+    int m_pressPayload = int(sizeof(int));
 };
 
 #endif // EVENTRECORDER_H

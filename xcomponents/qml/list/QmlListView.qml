@@ -1,0 +1,56 @@
+import QtQuick 2.15
+import QQuickHalvex 1.0
+
+// Flat list content of a menu: the control hit-tests the rows and scrolls
+// (contentY); this file only draws the entries.
+XListViewControl {
+    id: root
+
+    Rectangle {
+        objectName: "listBackground"
+        anchors.fill: parent
+        color: root.backColor
+        border.color: root.frameColor
+        border.width: root.borderWidth
+    }
+    Image {
+        anchors.fill: parent
+        anchors.margins: root.borderWidth
+        source: root.bgImage
+        visible: source != ""
+        fillMode: Image.Stretch
+    }
+    ListView {
+        id: list
+        objectName: "listEntries"
+        anchors.fill: parent
+        anchors.margins: root.borderWidth
+        clip: true
+        interactive: false
+        // rows are made only while the list can be seen (a closed pop-up makes none)
+        model: root.visible ? root.entries : []
+        delegate: Rectangle {
+            objectName: "listEntry" + index
+            width: list.width
+            height: root.rowHeight
+            color: index === root.currentIndex ? root.highlightColor : "transparent"
+            Text {
+                anchors.fill: parent
+                anchors.leftMargin: 4
+                anchors.rightMargin: 4
+                text: modelData
+                font: root.entryFont
+                color: root.fontColor
+                elide: Text.ElideRight
+                verticalAlignment: Text.AlignVCenter
+            }
+        }
+        function follow() { list.contentY = list.originY + root.contentY }
+        onCountChanged: follow()
+        Component.onCompleted: follow()
+        Connections {
+            target: root
+            function onContentYChanged() { list.follow() }
+        }
+    }
+}
