@@ -292,6 +292,14 @@ void every100ms(int)
     case 20:
         screenshot("2-window2");
         break;
+    case 21:
+    case 22:
+    case 23:
+    case 24: {
+        const bool more = MenuScreen::scriptStep(g_ticks100 - 21, screenshot);
+        (void)more;
+        break;
+    }
     case 25:
         openPopup();
         break;

@@ -120,4 +120,28 @@ bool onEvent(unsigned id, int code, void* data)
     return true;
 }
 
+bool scriptStep(int n, void (*shot)(const char* name))
+{
+    switch (n) {
+    case 0: // the operator releases the alarm-group box: the logic opens it
+        onEvent(kGroups, EVT_WIDGET_RELEASE, nullptr);
+        return true;
+    case 1:
+        shot("2b-alarm-group-tree");
+        return true;
+    case 2: { // and picks "Filler" under Plant 1 / Line A; the box closes with the choice
+        int filler = 111;
+        onEvent(kGroups, EVT_WIDGET_RELEASE, &filler);
+        View_HideWidget(kGroups, ITEM_SLASH_WHOLE); // (a real release on the entry closes it itself)
+        View_ShowWidget(kGroups, 1, ITEM_SLASH_WHOLE);
+        return true;
+    }
+    case 3:
+        shot("2c-alarm-group-chosen");
+        return true;
+    default:
+        return false;
+    }
+}
+
 } // namespace MenuScreen

@@ -15,6 +15,8 @@ namespace MenuScreen {
 void build(unsigned windowId);
 /** Handles an event of the screen's widgets; false when the event is not the screen's. */
 bool onEvent(unsigned id, int code, void* data);
+/** Headless script: step \a n of an operator's visit, simulated; false when there is no step \a n. */
+bool scriptStep(int n, void (*shot)(const char* name));
 
 } // namespace MenuScreen
 
