@@ -6,6 +6,7 @@
 //    screen, against a bare TextInput receiving the same key event (the keyboard
 //    on screen in both);
 //  - creating 200 single-line fields against 200 QML TextInputs.
+#include "benchframe.h"
 #include "benchreport.h"
 #include "common/panelfixture.h"
 
@@ -28,33 +29,6 @@
 #include <list>
 #include <vector>
 
-namespace {
-
-/** Milliseconds from \a start until the next frame of \a view is on screen. */
-double toFrame(QQuickView* view, const std::function<void()>& start)
-{
-    QSignalSpy spy(view, &QQuickWindow::frameSwapped);
-    QElapsedTimer t;
-    t.start();
-    start();
-    spy.wait(3000);
-    return t.nsecsElapsed() / 1e6;
-}
-
-double median(std::vector<double> v)
-{
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
-}
-
-void settleFrames(QQuickView* view)
-{
-    for (int i = 0; i < 3; ++i)
-        toFrame(view, [view] { view->update(); });
-}
-
-} // namespace
-
 int main(int argc, char** argv)
 {
     QSurfaceFormat format = QSurfaceFormat::defaultFormat();
@@ -71,16 +45,16 @@ int main(int argc, char** argv)
     QQuickItem* window = ViewManage::getInstance()->windowManage()->getWindow(A);
     QQmlEngine* engine = ViewManage::getInstance()->getQmlEngine();
     VirtualKeyboardManager* vkb = VirtualKeyboardManager::instance();
-    settleFrames(view);
+    Bench::settleFrames(view);
     // an operator's first touch on a field comes after the panel has been up for a moment (the
     // panel prepares the hidden keyboard then)
     QTest::qWait(1000);
 
     // ---- opening: the first time and later
-    const double oursFirst = toFrame(view, [] { View_PopupVirtualKeyboard(1, VKB_DECIMAL, "12"); });
+    const double oursFirst = Bench::toFrame(view, [] { View_PopupVirtualKeyboard(1, VKB_DECIMAL, "12"); });
     const QSizeF size(vkb->popup()->width(), vkb->popup()->height() + vkb->getVkbRect().height());
     View_CloseVirtualKeyboard();
-    settleFrames(view);
+    Bench::settleFrames(view);
 
     QQmlComponent popupComponent(engine);
     popupComponent.setData("import QtQuick 2.15\nimport QtQuick.Controls 2.15\n"
@@ -88,7 +62,7 @@ int main(int argc, char** argv)
                            "  TextField { objectName: \"field\"; anchors.fill: parent; font.pixelSize: 40 } }\n",
         QUrl());
     QObject* popup = nullptr;
-    const double baseFirst = toFrame(view, [&] {
+    const double baseFirst = Bench::toFrame(view, [&] {
         popup = popupComponent.create();
         popup->setProperty("parent", QVariant::fromValue<QQuickItem*>(view->contentItem()));
         popup->setProperty("width", size.width());
@@ -96,22 +70,22 @@ int main(int argc, char** argv)
         QMetaObject::invokeMethod(popup, "open");
     });
     QMetaObject::invokeMethod(popup, "close");
-    settleFrames(view);
+    Bench::settleFrames(view);
     Bench::report("keyboard first opening to frame vs Controls Popup+TextField", oursFirst, baseFirst, "ms",
         "<= 1.3");
 
     std::vector<double> o, b;
     for (int r = 0; r < 21; ++r) {
-        o.push_back(toFrame(view, [] { View_PopupVirtualKeyboard(1, VKB_DECIMAL, "12"); }));
+        o.push_back(Bench::toFrame(view, [] { View_PopupVirtualKeyboard(1, VKB_DECIMAL, "12"); }));
         View_CloseVirtualKeyboard();
-        settleFrames(view);
-        b.push_back(toFrame(view, [&] { QMetaObject::invokeMethod(popup, "open"); }));
+        Bench::settleFrames(view);
+        b.push_back(Bench::toFrame(view, [&] { QMetaObject::invokeMethod(popup, "open"); }));
         QMetaObject::invokeMethod(popup, "close");
-        settleFrames(view);
+        Bench::settleFrames(view);
     }
-    Bench::report("keyboard later opening to frame vs Controls Popup+TextField", median(o), median(b), "ms",
+    Bench::report("keyboard later opening to frame vs Controls Popup+TextField", Bench::median(o), Bench::median(b), "ms",
         "<= 1.3");
-    Bench::note("keyboard later opening to frame", median(o), "ms (goal under 16.7)");
+    Bench::note("keyboard later opening to frame", Bench::median(o), "ms (goal under 16.7)");
 
     // ---- key press to the typed character on screen
     QQmlComponent inputComponent(engine);
@@ -130,15 +104,15 @@ int main(int argc, char** argv)
     // typed character: the difference is the key's path to the text
     for (int r = 0; r < 31; ++r) {
         View_PopupVirtualKeyboard(1, VKB_TEXT, "");
-        settleFrames(view);
-        o.push_back(toFrame(view, [&] { pressOn(r); }));
+        Bench::settleFrames(view);
+        o.push_back(Bench::toFrame(view, [&] { pressOn(r); }));
         plainInput->setProperty("text", QString());
         plainInput->forceActiveFocus();
-        settleFrames(view);
-        b.push_back(toFrame(view, [&] { pressOn(r); }));
+        Bench::settleFrames(view);
+        b.push_back(Bench::toFrame(view, [&] { pressOn(r); }));
     }
     View_CloseVirtualKeyboard();
-    Bench::report("key press to frame, keyboard entry line vs bare TextInput", median(o), median(b), "ms",
+    Bench::report("key press to frame, keyboard entry line vs bare TextInput", Bench::median(o), Bench::median(b), "ms",
         "<= 1.2");
     delete plainInput;
 
@@ -164,7 +138,7 @@ int main(int argc, char** argv)
             ids.push_back(nextId++);
         }
         o.push_back(t.nsecsElapsed() / 1e6);
-        settleFrames(view);
+        Bench::settleFrames(view);
         View_DeleteWidgets(ids);
         ids.clear();
         PanelFixture::settle();
@@ -183,11 +157,11 @@ int main(int argc, char** argv)
             plain.push_back(in);
         }
         b.push_back(t.nsecsElapsed() / 1e6);
-        settleFrames(view);
+        Bench::settleFrames(view);
         qDeleteAll(plain);
         plain.clear();
     }
-    Bench::report("View_CreateNumInputText x200 vs QML TextInput x200", median(o), median(b), "ms", "<= 1.5");
+    Bench::report("View_CreateNumInputText x200 vs QML TextInput x200", Bench::median(o), Bench::median(b), "ms", "<= 1.5");
     delete popup;
     return 0;
 }

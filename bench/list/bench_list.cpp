@@ -6,6 +6,7 @@
 //    strings, to its frame;
 //  - one cell of a shown 100-row page changed per cycle to its frame, against
 //    the plain model's setData + dataChanged of that cell, to its frame.
+#include "benchframe.h"
 #include "benchreport.h"
 #include "common/panelfixture.h"
 
@@ -54,28 +55,6 @@ public:
 private:
     QVector<QVector<QString>> m_rows;
 };
-
-double toFrame(QQuickView* view, const std::function<void()>& work)
-{
-    QSignalSpy spy(view, &QQuickWindow::frameSwapped);
-    QElapsedTimer t;
-    t.start();
-    work();
-    spy.wait(3000);
-    return t.nsecsElapsed() / 1e6;
-}
-
-double median(std::vector<double> v)
-{
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
-}
-
-void settle(QQuickView* view)
-{
-    for (int i = 0; i < 3; ++i)
-        toFrame(view, [view] { view->update(); });
-}
 
 /** Texts of a page: "r<row>c<col>" with a round tag so that each round changes every cell. */
 std::vector<std::string> texts(int rows, int round)
@@ -139,7 +118,7 @@ int main(int argc, char** argv)
     table->setParentItem(window);
     table->setPosition(QPointF(514, 28));
     table->setSize(QSizeF(510, 572));
-    settle(view);
+    Bench::settleFrames(view);
 
     auto ourPage = [](int rows, int round, std::vector<std::string>& keep) {
         keep = texts(rows, round);
@@ -166,19 +145,19 @@ int main(int argc, char** argv)
             std::vector<std::string> keep;
             // the conversion from the logic layer's strings is part of each side's work
             QElapsedTimer call;
-            o.push_back(toFrame(view, [&] {
+            o.push_back(Bench::toFrame(view, [&] {
                 call.start();
                 View_ChangeListCtrlContent(10, ourPage(rows, round, keep));
                 oCall.push_back(call.nsecsElapsed() / 1e6);
             }));
-            settle(view);
-            b.push_back(toFrame(view, [&] { plain.setPage(plainPage(rows, round)); }));
-            settle(view);
+            Bench::settleFrames(view);
+            b.push_back(Bench::toFrame(view, [&] { plain.setPage(plainPage(rows, round)); }));
+            Bench::settleFrames(view);
         }
         const std::string name = "View_ChangeListCtrlContent " + std::to_string(rows) + "x8 to frame vs plain model reset";
-        Bench::report(name, median(o), median(b), "ms", "<= 1.5");
+        Bench::report(name, Bench::median(o), Bench::median(b), "ms", "<= 1.5");
         if (rows == 100)
-            Bench::note("View_ChangeListCtrlContent 100x8, the call alone", median(oCall), "ms (goal under 3)");
+            Bench::note("View_ChangeListCtrlContent 100x8, the call alone", Bench::median(oCall), "ms (goal under 3)");
     }
 
     // one cell per cycle on a shown 100-row page
@@ -186,19 +165,19 @@ int main(int argc, char** argv)
     auto page = ourPage(100, 0, keep);
     View_ChangeListCtrlContent(10, page);
     plain.setPage(plainPage(100, 0));
-    settle(view);
+    Bench::settleFrames(view);
     std::vector<double> o, b;
     std::vector<std::string> values;
     for (int i = 0; i < 60; ++i)
         values.push_back("alarm " + std::to_string(i));
     for (int i = 0; i < 60; ++i) {
         page[3][2].text = values[size_t(i)].c_str();
-        o.push_back(toFrame(view, [&] { View_ChangeListCtrlContent(10, page); }));
-        settle(view);
-        b.push_back(toFrame(view, [&] { plain.setCell(3, 2, QString::fromUtf8(values[size_t(i)].c_str())); }));
-        settle(view);
+        o.push_back(Bench::toFrame(view, [&] { View_ChangeListCtrlContent(10, page); }));
+        Bench::settleFrames(view);
+        b.push_back(Bench::toFrame(view, [&] { plain.setCell(3, 2, QString::fromUtf8(values[size_t(i)].c_str())); }));
+        Bench::settleFrames(view);
     }
-    Bench::report("one cell of a shown 100-row page per cycle to frame vs plain dataChanged", median(o), median(b),
+    Bench::report("one cell of a shown 100-row page per cycle to frame vs plain dataChanged", Bench::median(o), Bench::median(b),
         "ms", "<= 1.3");
     delete table;
     return 0;
