@@ -5,6 +5,7 @@
 #include "app/guishell.h"
 #include "platform/xoverlay.h"
 #include "platform/xpopup.h"
+#include "xcomponents/qquick/xalarmtableviewcontrol.h"
 #include "xcomponents/qquick/xcommontableview.h"
 #include "xcomponents/qquick/xquicktableview.h"
 #include "xcomponents/qquick/xtableheader.h"
@@ -88,6 +89,7 @@ void registerQmlTypes()
 
     // Tables
     qmlRegisterType<XTableViewControl>(uri, 1, 0, "XTableViewControl");
+    qmlRegisterType<XAlarmTableViewControl>(uri, 1, 0, "XAlarmTableViewControl");
     qmlRegisterType<XQuickTableView>(uri, 1, 0, "XQuickTableView");
     qmlRegisterType<XCommonTableView>(uri, 1, 0, "XCommonTableView");
     qmlRegisterType<XTableHeader>(uri, 1, 0, "XTableHeader");

@@ -232,7 +232,7 @@ public:
 
     // ---- list: list controls (app/layer_view_list.cpp, views/viewmanage_list.cpp)
     /** The one creation path of every table kind. */
-    int createTable(const View_List* rec, unsigned int windowId, bool singleLine);
+    int createTable(const View_List* rec, unsigned int windowId, bool singleLine, bool alarms = false);
     int View_AddListCtrlContent(unsigned int id, const std::vector<std::string>& row, int position);
     int View_ChangeListCtrlBrowseBoxParams(unsigned int id, unsigned int* values);
     int View_ChangeListCtrlContent(unsigned int id, const std::vector<std::vector<View_ListColData>>& rows);

@@ -7,6 +7,7 @@
 #include "views/lifecyclemanager.h"
 #include "views/liststate.h"
 #include "xcomponents/qquick/picturecachemanage.h"
+#include "xcomponents/qquick/xalarmtableviewcontrol.h"
 #include "xcomponents/qquick/xcommontableview.h"
 #include "xcomponents/qquick/xqmlcomponentmanage.h"
 #include "xcomponents/qquick/xtableviewcontrol.h"
@@ -88,12 +89,12 @@ XTableViewControl* tableOf(QQuickItem* item)
 
 } // namespace
 
-int ViewManage::createTable(const View_List* rec, unsigned int windowId, bool singleLine)
+int ViewManage::createTable(const View_List* rec, unsigned int windowId, bool singleLine, bool alarms)
 {
     QQuickItem* window = creationParent(rec, windowId);
     if (!window)
         return -1;
-    auto* table = new XTableViewControl(window);
+    XTableViewControl* table = alarms ? new XAlarmTableViewControl(window) : new XTableViewControl(window);
     const QRect r = Core::toQRect(rec->rect);
     table->setSize(r.size()); // the columns are laid out once, at their final width
     if (!table->initialze(toSetup(*rec, singleLine), XQmlComponentManage::getInstance()->engine())) {
@@ -112,7 +113,7 @@ int ViewManage::View_CreateListCtrl(const View_List* rec, unsigned int windowId)
 
 int ViewManage::View_CreateListAlarm(const View_listAlarm* rec, unsigned int windowId)
 {
-    return createTable(rec ? &rec->list : nullptr, windowId, false);
+    return createTable(rec ? &rec->list : nullptr, windowId, false, true);
 }
 
 int ViewManage::View_CreateListAlarmStat(const View_listAlarmStat* rec, unsigned int windowId)

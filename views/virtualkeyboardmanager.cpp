@@ -176,10 +176,12 @@ void VirtualKeyboardManager::warmUp(QQuickWindow* window)
     // queued: several swaps may already be queued when the connection goes
     auto connection = std::make_shared<QMetaObject::Connection>();
     auto frames = std::make_shared<int>(0);
-    *connection = connect(window, &QQuickWindow::frameSwapped, this, [this, connection, frames, window] {
-        if (++*frames == 1 && m_warming) {
+    // (a queued swap may also arrive after the window is gone: it is only looked at through a guard)
+    QPointer<QQuickWindow> guard(window);
+    *connection = connect(window, &QQuickWindow::frameSwapped, this, [this, connection, frames, guard] {
+        if (++*frames == 1 && m_warming && guard) {
             showGlyphSample(true);
-            window->update();
+            guard->update();
             return;
         }
         disconnect(*connection);
@@ -189,6 +191,8 @@ void VirtualKeyboardManager::warmUp(QQuickWindow* window)
 
 void VirtualKeyboardManager::showGlyphSample(bool latinSupplement)
 {
+    if (!m_layer || !m_popup)
+        return;
     // The glyphs of the other layouts and of what an operator types, then those of the accented
     // Latin letters: a glyph drawn for the first time is made and stored in the text's glyph
     // texture on the frame that shows it.

@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <vector>
 #include <unistd.h>
 
 namespace DemoLogic {
@@ -38,6 +39,41 @@ const unsigned kTitle = 100, kCarousel = 101, kStart = 110, kGrey = 111, kDisabl
                kQr = 120, kClock = 102;
 bool g_window1Built = false;
 int g_batch = 41;
+
+// the alarm list of window 1: the newest alarm first, coloured by severity
+const unsigned kAlarms = 130;
+struct Alarm {
+    std::string time, severity, text;
+};
+std::vector<Alarm> g_alarms;
+int g_alarmCount = 0;
+
+void showAlarms()
+{
+    std::vector<std::vector<View_ListColData>> page;
+    for (auto it = g_alarms.rbegin(); it != g_alarms.rend(); ++it) {
+        const bool high = it->severity == "High";
+        const bool medium = it->severity == "Medium";
+        const unsigned back = high ? 0xFFFFCDD2u : medium ? 0xFFFFF3C4u : 0;
+        const unsigned ink = high ? 0xFFB71C1Cu : 0;
+        page.push_back({ { it->time.c_str(), nullptr, nullptr, ink, back },
+            { it->severity.c_str(), nullptr, nullptr, ink, back }, { it->text.c_str(), nullptr, nullptr, ink, back } });
+    }
+    View_ChangeListCtrlContent(kAlarms, page);
+}
+
+void raiseAlarm(int n)
+{
+    static const char* const severities[] = { "Low", "Medium", "High" };
+    static const char* const texts[] = { "Filler nozzle 3 pressure low", "Capper torque above limit",
+        "Conveyor 2 stopped", "Labeller out of labels", "Tank 1 level high" };
+    char time[32];
+    std::snprintf(time, sizeof(time), "2026-11-23 14:%02d:%02d", 5 + n / 6, (n * 10) % 60);
+    g_alarms.push_back(Alarm { time, severities[(n * 7) % 3], texts[n % 5] });
+    if (g_alarms.size() > 50)
+        g_alarms.erase(g_alarms.begin());
+    showAlarms();
+}
 
 Font font(int px, unsigned color, int weight = 400)
 {
@@ -92,7 +128,7 @@ void buildWindow1()
 {
     if (g_window1Built) {
         // the widgets stayed cached while the window was closed: bring them back
-        for (unsigned id : { kTitle, kCarousel, kClock, kStart, kGrey, kDisabled, kPicture, kQr })
+        for (unsigned id : { kTitle, kCarousel, kClock, kStart, kGrey, kDisabled, kPicture, kQr, kAlarms })
             View_SetWidgetParent(id, kWindow1);
         return;
     }
@@ -116,6 +152,31 @@ void buildWindow1()
     View_QRCode qr { 0, Rect { 760, 140, 220, 220 }, kQr, 1, 0xFF1C2733u, 0xFFFFFFFFu };
     View_CreateQRCode(&qr, kWindow1);
     View_UpdateQRCodeContent(kQr, "batch 0041 / line 3");
+
+    static Font headerFont = font(18, 0xFFFFFFFFu, 600);
+    static Font cellFont = font(17, 0xFF1C2733u);
+    static const View_ListColumn columns[3] = {
+        { "Time", 190, QGUI_ALIGN_HCENTER | QGUI_ALIGN_VCENTER, COL_DATETIME, nullptr, 0, 0 },
+        { "Severity", 100, QGUI_ALIGN_HCENTER | QGUI_ALIGN_VCENTER, COL_STRING, nullptr, 0, 0 },
+        { "Alarm", 0, QGUI_ALIGN_LEFT | QGUI_ALIGN_VCENTER, COL_STRING, nullptr, 0, 0 },
+    };
+    View_listAlarm alarms {};
+    alarms.list.rect = Rect { 24, 304, 716, 224 };
+    alarms.list.id = kAlarms;
+    alarms.list.columns = columns;
+    alarms.list.columnCount = 3;
+    alarms.list.flags = LIST_SELECT_ROW | LIST_SINGLE_LINE;
+    alarms.list.headerHeight = 32;
+    alarms.list.rowHeight = 30;
+    alarms.list.headerFont = &headerFont;
+    alarms.list.contentFont = &cellFont;
+    alarms.list.headerColor = 0xFF1C2733u;
+    alarms.list.backColor = 0xFFFFFFFFu;
+    alarms.list.altBackColor = 0xFFF1F4F8u;
+    alarms.list.gridPen = Pen { 0xFFC8CFD8u, 1, PEN_SOLID };
+    View_CreateListAlarm(&alarms, kWindow1);
+    while (g_alarmCount < 3)
+        raiseAlarm(g_alarmCount++);
 }
 
 void showWindow(unsigned windowId)
@@ -338,6 +399,8 @@ void every100ms(int)
         break;
     }
     default:
+        if (g_ticks100 % 10 == 0 && g_window1Built) // an alarm every second: the list grows
+            raiseAlarm(g_alarmCount++);
         if (g_ticks100 % 30 == 0) { // a new batch every 3 s: the QR code follows
             char qr[64];
             std::snprintf(qr, sizeof(qr), "batch %04d / line 3", ++g_batch);

@@ -10,6 +10,7 @@
 #include "app/xquickview.h"
 #include "views/viewmanage.h"
 #include "views/virtualkeyboardmanager.h"
+#include "xcomponents/qquick/xalarmtableviewcontrol.h"
 #include "xcomponents/qquick/xquickheadermodel.h"
 #include "xcomponents/qquick/xtablemodel.h"
 #include "xcomponents/qquick/xtableviewcontrol.h"
@@ -17,6 +18,7 @@
 #include <QQuickItem>
 #include <QSignalSpy>
 #include <QtQuick/private/qquicktext_p.h>
+#include <QtQuickTemplates2/private/qquickscrollbar_p.h>
 
 #include <qgui/events.h>
 
@@ -43,6 +45,7 @@ private Q_SLOTS:
     void data_types_choose_keyboard_and_validator();
     void table_deleted_while_the_keyboard_edits_a_cell();
     void flicking_reports_moving_and_the_scroll_bar_follows();
+    void alarm_list_keeps_the_rows_being_read();
     void bad_pages_are_cut_not_trusted();
 
 private:
@@ -166,6 +169,7 @@ void tst_Tables::every_kind_is_a_table()
     QVERIFY(t);
     QCOMPARE(t->getWgtRect(), QRect(20, 20, 600, 300));
     QCOMPARE(t->view()->singleLine(), singleLine);
+    QCOMPARE(qobject_cast<XAlarmTableViewControl*>(t) != nullptr, kind == 1);
     // fixed widths kept, the free column takes the rest
     QCOMPARE(t->getActualColumnWidth(), (QVector<qreal> { 200, 300, 100 }));
     QCOMPARE(View_IsTextOutOfRange(10, 0), 0);
@@ -581,8 +585,10 @@ void tst_Tables::flicking_reports_moving_and_the_scroll_bar_follows()
     const View_List rec = record(120);
     QCOMPARE(View_CreateListCtrl(&rec, A), 0);
     XTableViewControl* t = table(120);
-    QCOMPARE(View_ChangeListCtrlContent(120, page(300, 3)), 0);
     QVERIFY(t->scrollBar());
+    QCOMPARE(t->scrollBar()->property("policy").toInt(), int(QQuickScrollBar::AlwaysOff)); // empty rows only
+    QCOMPARE(View_ChangeListCtrlContent(120, page(300, 3)), 0);
+    QCOMPARE(t->scrollBar()->property("policy").toInt(), int(QQuickScrollBar::AsNeeded));
     QVERIFY(TestUtil::waitForFrame(m_panel.view()));
     m_rec.clear();
     // a finger drags the body up
@@ -603,6 +609,27 @@ void tst_Tables::flicking_reports_moving_and_the_scroll_bar_follows()
     bare.flags = LIST_HIDE_SCROLLBAR;
     QCOMPARE(View_CreateListCtrl(&bare, A), 0);
     QVERIFY(!table(121)->scrollBar());
+}
+
+void tst_Tables::alarm_list_keeps_the_rows_being_read()
+{
+    View_listAlarm rec { record(130) };
+    QCOMPARE(View_CreateListAlarm(&rec, A), 0);
+    XTableViewControl* t = table(130);
+    XCommonTableView* v = t->view();
+    QCOMPARE(View_ChangeListCtrlContent(130, page(100, 3)), 0);
+    QVERIFY(TestUtil::waitForFrame(m_panel.view()));
+    // at the top: new alarms show at once
+    QCOMPARE(View_ChangeListCtrlContent(130, page(102, 3, "n")), 0);
+    QCOMPARE(v->contentY() - v->originY(), 0.0);
+    // scrolled down to read: the rows read stay in place
+    v->setContentY(v->originY() + 10 * v->rowHeight());
+    QVERIFY(TestUtil::waitForFrame(m_panel.view()));
+    QCOMPARE(View_ChangeListCtrlContent(130, page(105, 3, "m")), 0);
+    QCOMPARE(v->contentY() - v->originY(), 13 * v->rowHeight());
+    // fewer rows: nothing moves
+    QCOMPARE(View_ChangeListCtrlContent(130, page(104, 3)), 0);
+    QCOMPARE(v->contentY() - v->originY(), 13 * v->rowHeight());
 }
 
 QGUI_GUIAPP_TEST_MAIN(tst_Tables)

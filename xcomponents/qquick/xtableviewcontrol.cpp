@@ -107,6 +107,14 @@ bool XTableViewControl::initialze(const Setup& setup, QQmlEngine* engine)
         if (bar && attached) {
             attached->setVertical(bar);
             m_scrollBar = bar;
+            // shown only when there are more rows of the page than fit (not for the empty rows)
+            auto policy = [this, bar] {
+                const bool more = m_view && m_model->actualRowCount() * rowHeight() > m_view->height();
+                bar->setPolicy(more ? QQuickScrollBar::AsNeeded : QQuickScrollBar::AlwaysOff);
+            };
+            connect(m_model, &XTableModel::actualRowCountChanged, bar, policy);
+            connect(m_view.data(), &QQuickItem::heightChanged, bar, policy);
+            policy();
         } else {
             delete bar;
         }

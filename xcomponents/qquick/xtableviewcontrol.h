@@ -105,7 +105,7 @@ public:
     /** New titles, one per column (missing ones empty). */
     void updateHeader(const QStringList& titles);
     /** Replaces the page. */
-    void updateData(const QVector<QVector<XTableCell>>& rows);
+    virtual void updateData(const QVector<QVector<XTableCell>>& rows);
     /** Fonts per column, in column order. */
     void changeListCtrlFont(const QVector<QPair<QFont, QColor>>& fonts);
     /** Shows or hides a column; unknown columns are ignored. */
