@@ -132,11 +132,10 @@ void XTableModel::setColumnCount(int columns)
     endResetModel();
 }
 
-void XTableModel::updateData(const QVector<QVector<Cell>>& rows)
+void XTableModel::updateData(QVector<QVector<Cell>> next)
 {
     const int oldRows = m_rows.size();
     const int oldCount = rowCount();
-    QVector<QVector<Cell>> next = rows;
     for (auto& r : next)
         r.resize(m_columns);
 

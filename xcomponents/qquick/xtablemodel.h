@@ -64,7 +64,7 @@ public:
     /** The columns; cells beyond them are dropped, missing cells are empty. */
     void setColumnCount(int columns);
     /** Replaces the page. Rows longer than the column count are cut, shorter ones filled. */
-    void updateData(const QVector<QVector<Cell>>& rows);
+    void updateData(QVector<QVector<Cell>> rows);
     /** The text of a cell of the page, empty outside it. */
     QString cellText(int row, int column) const;
 

@@ -289,7 +289,7 @@ void XTableViewControl::updateData(const QVector<QVector<XTableCell>>& rows)
         }
         page.append(std::move(r));
     }
-    m_model->updateData(page);
+    m_model->updateData(std::move(page)); // the page is built here once, never copied
 }
 
 void XTableViewControl::changeListCtrlFont(const QVector<QPair<QFont, QColor>>& fonts)
