@@ -8,6 +8,8 @@
 #include "xcomponents/qquick/xalarmtableviewcontrol.h"
 #include "xcomponents/qquick/xcommontableview.h"
 #include "xcomponents/qquick/xquicktableview.h"
+#include "xcomponents/qquick/xtablefilterdlg.h"
+#include "xcomponents/qquick/xtablefiltermenu.h"
 #include "xcomponents/qquick/xtableheader.h"
 #include "xcomponents/qquick/xsettingtoolcontrol.h"
 #include "xcomponents/qquick/xtablemodel.h"
@@ -93,6 +95,8 @@ void registerQmlTypes()
     qmlRegisterType<XQuickTableView>(uri, 1, 0, "XQuickTableView");
     qmlRegisterType<XCommonTableView>(uri, 1, 0, "XCommonTableView");
     qmlRegisterType<XTableHeader>(uri, 1, 0, "XTableHeader");
+    qmlRegisterType<XTableFilterMenu>(uri, 1, 0, "XTableFilterMenu");
+    qmlRegisterType<XTableFilterDlg>(uri, 1, 0, "XTableFilterDlg");
     qmlRegisterType<XTableModel>(uri, 1, 0, "XTableModel");
     qmlRegisterType<XSettingToolControl>(uri, 1, 0, "XSettingToolControl");
     // Menus: the drop-down box and its contents

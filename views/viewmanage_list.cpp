@@ -6,6 +6,7 @@
 #include "platform/guiqtadaptcore.h"
 #include "views/lifecyclemanager.h"
 #include "views/liststate.h"
+#include "views/qmlwindowmanage.h"
 #include "xcomponents/qquick/picturecachemanage.h"
 #include "xcomponents/qquick/xalarmtableviewcontrol.h"
 #include "xcomponents/qquick/xcommontableview.h"
@@ -13,6 +14,8 @@
 #include "xcomponents/qquick/xtableviewcontrol.h"
 
 #include <QQmlEngine>
+
+#include <qgui/ids.h>
 
 using GuiQtAdapt::Core;
 
@@ -102,6 +105,7 @@ int ViewManage::createTable(const View_List* rec, unsigned int windowId, bool si
         return -1;
     }
     placeWidget(table, rec, windowId);
+    table->setOverlay(m_windowManage->getOverlay(GetDeskNoFromWndId(windowId))); // sort/filter menus
     m_list->attach(table);
     return 0;
 }

@@ -121,8 +121,9 @@ struct View_EvtListFilter {
     int operator1; /**< ExpressOperator of the first condition (the dialog offers EQUAL, NOT_EQUAL, LESS,
                       LESS_EQUAL, MORE, MORE_EQUAL, LIKE) */
     const char* value2; /**< value of the second condition; "" when there is none */
-    int operator2; /**< ExpressOperator of the second condition */
-    int join; /**< how the two conditions combine: OPERATOR_LOGICAL_AND or OPERATOR_LOGICAL_OR */
+    int operator2; /**< ExpressOperator of the second condition; 0 when there is none */
+    int join; /**< how the two conditions combine: OPERATOR_LOGICAL_AND or OPERATOR_LOGICAL_OR; 0 when there is
+                 no second condition */
 };
 
 /** EVT_LIST_SORT: the order chosen in a column's menu. */

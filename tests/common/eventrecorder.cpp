@@ -82,7 +82,13 @@ ErrRet EventRecorder::callBack(unsigned id, int code, void* data)
     e.id = id;
     e.code = code;
     e.nullData = data == nullptr;
-    if (data && code == 520) {
+    if (data && code == 518) {
+        // a column's filter: "column|value1|operator1|value2|operator2|join"
+        const auto* f = static_cast<const View_EvtListFilter*>(data);
+        e.payload = QByteArray::number(f->column) + '|' + QByteArray(f->value1 ? f->value1 : "(null)") + '|'
+            + QByteArray::number(f->operator1) + '|' + QByteArray(f->value2 ? f->value2 : "(null)") + '|'
+            + QByteArray::number(f->operator2) + '|' + QByteArray::number(f->join);
+    } else if (data && code == 520) {
         // a table's pending edits: "row,column=text" lines in the order sent
         for (const View_ListEditItem& edit : *static_cast<const View_EvtListEdits*>(data))
             e.payload += QByteArray::number(edit.row) + ',' + QByteArray::number(edit.column) + '='

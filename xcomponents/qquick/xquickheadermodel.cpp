@@ -32,6 +32,10 @@ QVariant XQuickHeaderModel::data(const QModelIndex& index, int role) const
         return m_font;
     case CheckedRole:
         return index.column() == m_checked;
+    case OrderRole:
+        return index.column() == m_checked ? m_order : 1;
+    case FilteredRole:
+        return m_filtered.contains(index.column());
     default:
         return QVariant();
     }
@@ -45,6 +49,8 @@ QHash<int, QByteArray> XQuickHeaderModel::roleNames() const
         { BackColorRole, "backColor" },
         { FontRole, "cellFont" },
         { CheckedRole, "checked" },
+        { OrderRole, "order" },
+        { FilteredRole, "filtered" },
     };
 }
 
@@ -93,12 +99,25 @@ void XQuickHeaderModel::setFont(const QFont& font, const QColor& color)
     emitAll({ FontRole, TextColorRole });
 }
 
-void XQuickHeaderModel::setCheckedColumn(int column)
+void XQuickHeaderModel::setCheckedColumn(int column, int order)
 {
-    if (column == m_checked)
+    if (column == m_checked && order == m_order)
         return;
     m_checked = column;
-    emitAll({ CheckedRole });
+    m_order = order;
+    emitAll({ CheckedRole, OrderRole });
+}
+
+void XQuickHeaderModel::setColumnFiltered(int column, bool filtered)
+{
+    if (column < 0 || column >= m_titles.size() || filtered == m_filtered.contains(column))
+        return;
+    if (filtered)
+        m_filtered.insert(column);
+    else
+        m_filtered.remove(column);
+    const QModelIndex at = index(0, column);
+    Q_EMIT dataChanged(at, at, { FilteredRole });
 }
 
 void XQuickHeaderModel::emitAll(const QVector<int>& roles)

@@ -5,6 +5,7 @@
 #include <QColor>
 #include <QFont>
 #include <QLocale>
+#include <QSet>
 #include <QStringList>
 
 /**
@@ -21,7 +22,9 @@ public:
         TextColorRole = Qt::UserRole + 1, /**< QColor of the titles */
         BackColorRole, /**< QColor of the header */
         FontRole, /**< QFont of the titles */
-        CheckedRole /**< the column whose sort or filter is on */
+        CheckedRole, /**< the column whose sort order is chosen */
+        OrderRole, /**< the chosen OrderType of the checked column (ORDER_NONE elsewhere) */
+        FilteredRole /**< a filter is set on the column */
     };
 
     explicit XQuickHeaderModel(QObject* parent = nullptr);
@@ -44,9 +47,12 @@ public:
     void setFont(const QFont& font, const QColor& color);
     QLocale locale() const { return m_locale; }
     void setLocale(const QLocale& locale) { m_locale = locale; }
-    /** The column shown as sorted or filtered, -1 for none. */
-    void setCheckedColumn(int column);
+    /** The column shown as sorted, -1 for none, and its order (OrderType). */
+    void setCheckedColumn(int column, int order = 0);
     int checkedColumn() const { return m_checked; }
+    /** Marks \a column as filtered or not; unknown columns are ignored. */
+    void setColumnFiltered(int column, bool filtered);
+    bool isColumnFiltered(int column) const { return m_filtered.contains(column); }
 
 Q_SIGNALS:
     void headerHeightChanged();
@@ -62,6 +68,8 @@ private:
     QFont m_font;
     QLocale m_locale;
     int m_checked = -1;
+    int m_order = 1;
+    QSet<int> m_filtered;
 };
 
 #endif // XQUICKHEADERMODEL_H

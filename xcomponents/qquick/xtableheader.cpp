@@ -23,5 +23,8 @@ void XTableHeader::setActionCheckedCol(int column, int order)
 {
     m_checkedColumn = column;
     m_checkedOrder = order;
-    m_model->setCheckedColumn(order == 1 ? -1 : column); // ORDER_NONE shows no mark
+    if (order == 1) // ORDER_NONE shows no mark
+        m_model->setCheckedColumn(-1);
+    else
+        m_model->setCheckedColumn(column, order);
 }

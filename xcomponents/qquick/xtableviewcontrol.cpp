@@ -1,16 +1,20 @@
 #include "xcomponents/qquick/xtableviewcontrol.h"
 
 #include "platform/logiclayercaller.h"
+#include "platform/xoverlay.h"
 #include "xcomponents/qquick/xcommontableview.h"
 #include "xcomponents/qquick/xqmlcomponentmanage.h"
 #include "xcomponents/qquick/xquickheadermodel.h"
 #include "xcomponents/qquick/xsettingtoolcontrol.h"
+#include "xcomponents/qquick/xtablefilterdlg.h"
+#include "xcomponents/qquick/xtablefiltermenu.h"
 #include "xcomponents/qquick/xtableheader.h"
 #include "xcomponents/qquick/xtablemodel.h"
 
 #include <QtQuickTemplates2/private/qquickscrollbar_p.h>
 
 #include <QFontMetrics>
+#include <QtMath>
 #include <QMouseEvent>
 #include <QQmlEngine>
 #include <QTouchEvent>
@@ -23,6 +27,8 @@ const char* const kCellUrl = "qrc:/list/QmlTableCell.qml";
 const char* const kHeaderCellUrl = "qrc:/list/QmlTableHeaderCell.qml";
 const char* const kToolBarUrl = "qrc:/list/QmlSettingToolDlg.qml";
 const char* const kScrollBarUrl = "qrc:/list/QmlTableScrollBar.qml";
+const char* const kFilterMenuUrl = "qrc:/list/QmlTableFilterMenu.qml";
+const char* const kFilterDlgUrl = "qrc:/list/QmlTableFilterDlg.qml";
 } // namespace
 
 XTableViewControl::XTableViewControl(QQuickItem* parent)
@@ -243,6 +249,9 @@ void XTableViewControl::acceptKeyboardText(const QString& text)
     m_keyboardUse = KeyboardUse::None;
     if (use == KeyboardUse::PageEntry && m_toolBar) {
         m_toolBar->goToPage(text);
+    } else if ((use == KeyboardUse::FilterValue1 || use == KeyboardUse::FilterValue2) && m_filterDlg
+        && m_filterDlg->isOpened()) {
+        m_filterDlg->setValue(use == KeyboardUse::FilterValue1 ? 0 : 1, text);
     } else if (use == KeyboardUse::Cell && m_view && m_view->editingCell().x() >= 0) {
         const QPoint cell = m_view->editingCell();
         m_view->setEditingCell(QPoint(-1, -1));
@@ -337,6 +346,148 @@ void XTableViewControl::setFilter(bool on)
     m_setup.filter = on;
     if (m_header)
         m_header->setFilterEnabled(on);
+    if (!on)
+        closeFilterPopups();
+}
+
+void XTableViewControl::setOverlay(XOverlay* overlay)
+{
+    if (overlay == m_overlay)
+        return;
+    closeFilterPopups();
+    m_overlay = overlay;
+    if (m_filterMenu)
+        m_filterMenu->setOverlay(overlay);
+    if (m_filterDlg)
+        m_filterDlg->setOverlay(overlay);
+}
+
+bool XTableViewControl::openFilterMenu(int column)
+{
+    if (!m_overlay || !m_header || !m_header->filterEnabled() || column < 0 || column >= m_setup.columns.size()
+        || m_setup.columns.at(column).hidden)
+        return false;
+    if (!m_filterMenu) {
+        m_filterMenu = qobject_cast<XTableFilterMenu*>(
+            XQmlComponentManage::getInstance()->createItem(QUrl(QString::fromLatin1(kFilterMenuUrl)), m_overlay));
+        if (!m_filterMenu)
+            return false;
+        m_filterMenu->setParent(this); // deleted with the table; shown on the overlay
+        m_filterMenu->setOverlay(m_overlay);
+        connect(m_filterMenu.data(), &XTableFilterMenu::orderChosen, this, [this](int col, int order) {
+            if (m_header)
+                m_header->setActionCheckedCol(col, order);
+        });
+        connect(m_filterMenu.data(), &XTableFilterMenu::filterCleared, this, [this](int col) {
+            if (m_header)
+                m_header->headerModel()->setColumnFiltered(col, false);
+        });
+        connect(m_filterMenu.data(), &XTableFilterMenu::filterRequested, this,
+            [this](int col, int op) { openFilterDlg(col, op); });
+    }
+    closeFilterPopups();
+    m_filterMenu->setWidgetId(getId());
+    const int order = m_header->checkedColumn() == column ? m_header->checkedOrder() : XTableFilterMenu::ORDER_NONE;
+    m_filterMenu->setup(column, m_setup.columns.at(column).dataType, order);
+
+    // under the title, kept inside the overlay
+    qreal left = 0;
+    const QVector<qreal> widths = getActualColumnWidth();
+    for (int c = 0; c < column && c < widths.size(); ++c)
+        left += widths.at(c);
+    left -= m_view ? m_view->contentX() : 0;
+    QPointF at = m_overlay->mapFromItem(this, QPointF(left, headerHeight()));
+    at.setX(qBound<qreal>(0, at.x(), qMax<qreal>(0, m_overlay->width() - m_filterMenu->width())));
+    at.setY(qBound<qreal>(0, at.y(), qMax<qreal>(0, m_overlay->height() - m_filterMenu->height())));
+    m_filterMenu->setPosition(QPointF(qFloor(at.x()), qFloor(at.y())));
+    m_filterMenu->open();
+    return true;
+}
+
+bool XTableViewControl::openFilterDlg(int column, int op)
+{
+    if (!m_overlay || !m_header || !m_header->filterEnabled() || column < 0 || column >= m_setup.columns.size()
+        || XTableFilterDlg::filterKind(m_setup.columns.at(column).dataType) < 0)
+        return false;
+    if (!m_filterDlg) {
+        m_filterDlg = qobject_cast<XTableFilterDlg*>(
+            XQmlComponentManage::getInstance()->createItem(QUrl(QString::fromLatin1(kFilterDlgUrl)), m_overlay));
+        if (!m_filterDlg)
+            return false;
+        m_filterDlg->setParent(this);
+        m_filterDlg->setOverlay(m_overlay);
+        connect(m_filterDlg.data(), &XTableFilterDlg::filterCommitted, this, [this](int col) {
+            if (m_header)
+                m_header->headerModel()->setColumnFiltered(col, true);
+        });
+        connect(m_filterDlg.data(), &XTableFilterDlg::valueEntryRequested, this, [this](int which, const QString& text) {
+            if (!m_filterDlg)
+                return;
+            const int type = m_filterDlg->dataTypeCode();
+            m_keyboardUse = which == 0 ? KeyboardUse::FilterValue1 : KeyboardUse::FilterValue2;
+            Q_EMIT keyboardRequested(XCommonTableView::dataTypeToVtkType(type),
+                XCommonTableView::dataTypeToValidator(type), text);
+        });
+        connect(m_filterDlg.data(), &XPopup::closed, this, [this] {
+            if (m_keyboardUse == KeyboardUse::FilterValue1 || m_keyboardUse == KeyboardUse::FilterValue2)
+                Q_EMIT keyboardHideRequested();
+        });
+    }
+    if (m_filterMenu)
+        m_filterMenu->close();
+    m_filterDlg->close();
+    m_filterDlg->setWidgetId(getId());
+    const QString title = m_header->headerModel()->title(column);
+    m_filterDlg->setup(column, m_setup.columns.at(column).dataType, title, op);
+    m_filterDlg->setPosition(QPointF(qFloor(qMax<qreal>(0, (m_overlay->width() - m_filterDlg->width()) / 2)),
+        qFloor(qMax<qreal>(0, (m_overlay->height() - m_filterDlg->height()) / 3))));
+    m_filterDlg->open();
+    return true;
+}
+
+XTableFilterMenu* XTableViewControl::filterMenu() const
+{
+    return m_filterMenu.data();
+}
+
+XTableFilterDlg* XTableViewControl::filterDialog() const
+{
+    return m_filterDlg.data();
+}
+
+void XTableViewControl::closeFilterPopups()
+{
+    if (m_filterMenu)
+        m_filterMenu->close();
+    if (m_filterDlg)
+        m_filterDlg->close();
+}
+
+void XTableViewControl::watchHeader(int code, const QPointF& scenePos)
+{
+    // a tap on a title (press and release on the same one) opens its menu
+    int column = -1;
+    if (m_header && m_header->isVisible() && m_header->filterEnabled()) {
+        const QPointF local = m_header->mapFromScene(scenePos);
+        if (local.y() >= 0 && local.y() < m_header->height())
+            column = m_header->cellAt(local).x();
+    }
+    if (code == EVT_WIDGET_PRESS) {
+        m_headerPressColumn = column;
+        return;
+    }
+    const bool tapped = column >= 0 && column == m_headerPressColumn;
+    m_headerPressColumn = -1;
+    if (tapped)
+        openFilterMenu(column);
+}
+
+void XTableViewControl::itemChange(ItemChange change, const ItemChangeData& data)
+{
+    XBaseControl::itemChange(change, data);
+    if ((change == ItemVisibleHasChanged && !data.boolValue) || (change == ItemParentHasChanged && !data.item)
+        || (change == ItemSceneChange && !data.window))
+        closeFilterPopups();
 }
 
 void XTableViewControl::setIsMoving(bool moving)
@@ -362,6 +513,7 @@ void XTableViewControl::sendCell(int code, const QPointF& scenePos, ulong timest
     LogicLayerCaller::call(getId(), code, &cell);
     if (code == EVT_WIDGET_PRESS)
         openCell(QPoint(cell.column, cell.row));
+    watchHeader(code, scenePos);
 }
 
 bool XTableViewControl::childMouseEventFilter(QQuickItem* item, QEvent* event)

@@ -13,6 +13,9 @@
 #include <QVector>
 
 class QQmlEngine;
+class XOverlay;
+class XTableFilterDlg;
+class XTableFilterMenu;
 class XTableModel;
 
 /** One cell as the views layer converts it from the interface record. */
@@ -34,6 +37,11 @@ struct XTableCell {
  * the cell under the finger (View_EvtCell; -1 outside the cells), the release
  * naming the cell where the finger left. The body's scrolling is sent as 522
  * (started moving) and 521 (stopped).
+ *
+ * While the sort and filter menus are on, a tap on a header title opens the
+ * column's XTableFilterMenu on the control's overlay; its filter entries open
+ * the XTableFilterDlg, whose values are typed on the keyboard. Both are made
+ * on first use and closed when the control is hidden or leaves its window.
  */
 class XTableViewControl : public XBaseControl {
     Q_OBJECT
@@ -92,6 +100,17 @@ public:
     XSettingToolControl* toolBar() const { return m_toolBar; }
     /** The body's vertical scroll bar, or null without one. */
     QQuickItem* scrollBar() const { return m_scrollBar; }
+    /** The layer the sort/filter menu and the filter dialog open on (that of the control's desktop). */
+    void setOverlay(XOverlay* overlay);
+    /** Opens the sort/filter menu of \a column under its title; false when the menus are off, the
+     *  column is unknown or there is no overlay. */
+    Q_INVOKABLE bool openFilterMenu(int column);
+    /** Opens the filter dialog of \a column with \a op as its first operator; false as openFilterMenu. */
+    bool openFilterDlg(int column, int op = -1);
+    /** The sort/filter menu, or null before its first use. */
+    XTableFilterMenu* filterMenu() const;
+    /** The filter dialog, or null before its first use. */
+    XTableFilterDlg* filterDialog() const;
     /** The paging bar's numbers: total records, current page, total pages. */
     void setBrowseBoxParams(unsigned total, unsigned page, unsigned pages);
 
@@ -142,6 +161,8 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void touchEvent(QTouchEvent* event) override;
+    /** Hidden, or taken out of its window: the menu and the dialog close. */
+    void itemChange(ItemChange change, const ItemChangeData& data) override;
 
 private:
     void calcColumnWidth();
@@ -149,9 +170,11 @@ private:
     void updateMinimumRows();
     void sendCell(int code, const QPointF& scenePos, ulong timestamp);
     void openCell(const QPoint& cell);
+    void watchHeader(int code, const QPointF& scenePos);
+    void closeFilterPopups();
     int toolBarHeight() const;
 
-    enum class KeyboardUse { None, PageEntry, Cell };
+    enum class KeyboardUse { None, PageEntry, Cell, FilterValue1, FilterValue2 };
 
     /** The press or release sent last. */
     struct SentPress {
@@ -169,6 +192,10 @@ private:
     QPointer<XSettingToolControl> m_toolBar;
     QPointer<QQuickItem> m_scrollBar;
     KeyboardUse m_keyboardUse = KeyboardUse::None;
+    QPointer<XOverlay> m_overlay;
+    QPointer<XTableFilterMenu> m_filterMenu;
+    QPointer<XTableFilterDlg> m_filterDlg;
+    int m_headerPressColumn = -1; /**< the header title under the finger's press, -1 for none */
 };
 
 #endif // XTABLEVIEWCONTROL_H

@@ -16,6 +16,60 @@
     </message>
 </context>
 <context>
+    <name>QmlTableFilterDlg</name>
+    <message>
+        <source>Filter</source>
+        <translation>筛选</translation>
+    </message>
+    <message>
+        <source>And</source>
+        <translation>并且</translation>
+    </message>
+    <message>
+        <source>Or</source>
+        <translation>或者</translation>
+    </message>
+    <message>
+        <source>Commit</source>
+        <translation>提交</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>QmlTableFilterMenu</name>
+    <message>
+        <source>Ascend</source>
+        <translation>升序</translation>
+    </message>
+    <message>
+        <source>Descend</source>
+        <translation>降序</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>筛选</translation>
+    </message>
+    <message>
+        <source>Text Filter</source>
+        <translation>文本筛选</translation>
+    </message>
+    <message>
+        <source>Num Filter</source>
+        <translation>数字筛选</translation>
+    </message>
+    <message>
+        <source>Date Filter</source>
+        <translation>日期筛选</translation>
+    </message>
+</context>
+<context>
     <name>StartEndDateTimePopup</name>
     <message>
         <source>Setting</source>
@@ -54,6 +108,37 @@
     <message>
         <source>not available</source>
         <translation>不可用</translation>
+    </message>
+</context>
+<context>
+    <name>XTableFilterDlg</name>
+    <message>
+        <source>Equals</source>
+        <translation>等于</translation>
+    </message>
+    <message>
+        <source>Not Equal</source>
+        <translation>不等于</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>小于</translation>
+    </message>
+    <message>
+        <source>LessOrEqual</source>
+        <translation>小于等于</translation>
+    </message>
+    <message>
+        <source>Greater</source>
+        <translation>大于</translation>
+    </message>
+    <message>
+        <source>GreaterOrEqual</source>
+        <translation>大于等于</translation>
+    </message>
+    <message>
+        <source>Like</source>
+        <translation>包含</translation>
     </message>
 </context>
 </TS>
