@@ -26,7 +26,7 @@ const unsigned kWindow1 = (kDesk << 16) | 1; // window ids: desktop number in th
 const unsigned kWindow2 = (kDesk << 16) | 2;
 const unsigned kPopup = (kDesk << 16) | 3;
 const unsigned kEntry = (kDesk << 16) | 4; // the entry screen (entryscreen.cpp)
-const int kEntryFrom = 76, kEntryEvery = 5; // its script: one step every half second from 7.6 s
+const int kEntryFrom = 122, kEntryEvery = 5; // its script: one step every half second from 7.6 s
 int g_entryStep = 0;
 bool g_entryDone = false;
 const unsigned kRecipes = (kDesk << 16) | 5; // the recipe screen (recipescreen.cpp)
@@ -371,7 +371,7 @@ void every100ms(int)
         closePopup();
         break; // nobody pressed its close button: close it anyway
     case 42:
-        View_PopupMsg("Batch 42 finished: 1,250 parts", 4);
+        View_PopupMsg("Batch 42 finished: 1,250 parts", 2); // gone before the recipe screen is touched
         break;
     case 45:
         screenshot("4-message");
@@ -408,9 +408,9 @@ void every100ms(int)
         }
         if (g_ticks100 == 58)
             showWindow(kRecipes);
-        if (g_current == kRecipes && !g_recipeDone && g_ticks100 % 3 == 0)
+        if (g_current == kRecipes && !g_recipeDone && g_ticks100 % 3 == 0) // touches 300 ms apart
             g_recipeDone = !RecipeScreen::scriptStep(g_recipeStep++, screenshot);
-        if (g_ticks100 == 74)
+        if (g_ticks100 == 120)
             showWindow(kEntry);
         if (!g_entryDone && g_ticks100 >= kEntryFrom && (g_ticks100 - kEntryFrom) % kEntryEvery == 0)
             g_entryDone = !EntryScreen::scriptStep(g_entryStep++, screenshot);

@@ -6,6 +6,7 @@ import QtQuick 2.15
 // the operator that the title can be touched.
 Rectangle {
     id: cell
+    objectName: "headerTitle" + (roles.column !== undefined ? roles.column : "")
     // the title's roles (absent when the file is loaded on its own)
     readonly property var roles: typeof model !== "undefined" ? model : ({})
     color: roles.backColor !== undefined ? roles.backColor : "#537bad"

@@ -1,0 +1,76 @@
+#include "operatortouch.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+namespace OperatorTouch {
+
+namespace {
+QQuickWindow* panelWindow()
+{
+    for (QWindow* w : QGuiApplication::topLevelWindows()) {
+        if (auto* quick = qobject_cast<QQuickWindow*>(w))
+            return quick;
+    }
+    return nullptr;
+}
+
+QQuickItem* findVisible(QQuickItem* root, const QString& name, bool (*match)(QQuickItem*, const void*), const void* key)
+{
+    if (!root || !root->isVisible())
+        return nullptr;
+    if (match(root, key))
+        return root;
+    for (QQuickItem* child : root->childItems()) {
+        if (QQuickItem* found = findVisible(child, name, match, key))
+            return found;
+    }
+    return nullptr;
+}
+
+void touchAt(QQuickWindow* window, const QPointF& scenePos)
+{
+    static ulong timestamp = 1000;
+    const QPointF global = window->mapToGlobal(scenePos.toPoint());
+    for (QEvent::Type type : { QEvent::MouseButtonPress, QEvent::MouseButtonRelease }) {
+        QMouseEvent event(type, scenePos, scenePos, global, Qt::LeftButton,
+            type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+        event.setTimestamp(timestamp += 80);
+        QCoreApplication::sendEvent(window, &event);
+    }
+}
+} // namespace
+
+bool touchItem(const char* objectName)
+{
+    QQuickWindow* window = panelWindow();
+    const QString name = QString::fromUtf8(objectName);
+    QQuickItem* item = window ? findVisible(window->contentItem(), name,
+                           [](QQuickItem* i, const void* k) { return i->objectName() == *static_cast<const QString*>(k); },
+                           &name)
+                              : nullptr;
+    if (!item)
+        return false;
+    touchAt(window, item->mapToScene(QPointF(item->width() / 2, item->height() / 2)));
+    return true;
+}
+
+bool touchWidget(unsigned widgetId, double x, double y)
+{
+    QQuickWindow* window = panelWindow();
+    QQuickItem* item = window ? findVisible(window->contentItem(), QString(),
+                           [](QQuickItem* i, const void* k) {
+                               const QVariant id = i->property("widgetId");
+                               return id.isValid() && id.toUInt() == *static_cast<const unsigned*>(k);
+                           },
+                           &widgetId)
+                              : nullptr;
+    if (!item)
+        return false;
+    touchAt(window, item->mapToScene(QPointF(x, y)));
+    return true;
+}
+
+} // namespace OperatorTouch
