@@ -8,6 +8,10 @@
 #include "xcomponents/qquick/xalarmtableviewcontrol.h"
 #include "xcomponents/qquick/xcommontableview.h"
 #include "xcomponents/qquick/xquicktableview.h"
+#include "xcomponents/qquick/xalarmbarcontrol.h"
+#include "xcomponents/qquick/xalarmbarmodel.h"
+#include "xcomponents/qquick/xhalarmbarcontrol.h"
+#include "xcomponents/qquick/xhalarmbarrepeater.h"
 #include "xcomponents/qquick/xtablefilterdlg.h"
 #include "xcomponents/qquick/xtablefiltermenu.h"
 #include "xcomponents/qquick/xtableheader.h"
@@ -97,6 +101,11 @@ void registerQmlTypes()
     qmlRegisterType<XTableHeader>(uri, 1, 0, "XTableHeader");
     qmlRegisterType<XTableFilterMenu>(uri, 1, 0, "XTableFilterMenu");
     qmlRegisterType<XTableFilterDlg>(uri, 1, 0, "XTableFilterDlg");
+    qmlRegisterUncreatableType<XAlarmBar>(uri, 1, 0, "XAlarmBar", QStringLiteral("the base of the alarm bars"));
+    qmlRegisterType<XAlarmBarModel>(uri, 1, 0, "XAlarmBarModel");
+    qmlRegisterType<XAlarmBarControl>(uri, 1, 0, "XAlarmBarControl");
+    qmlRegisterType<XHAlarmBarControl>(uri, 1, 0, "XHAlarmBarControl");
+    qmlRegisterType<XHAlarmBarRepeater>(uri, 1, 0, "XHAlarmBarRepeater");
     qmlRegisterType<XTableModel>(uri, 1, 0, "XTableModel");
     qmlRegisterType<XSettingToolControl>(uri, 1, 0, "XSettingToolControl");
     // Menus: the drop-down box and its contents

@@ -7,6 +7,7 @@
 #include "views/lifecyclemanager.h"
 #include "views/liststate.h"
 #include "views/qmlwindowmanage.h"
+#include "views/tablesetup.h"
 #include "xcomponents/qquick/picturecachemanage.h"
 #include "xcomponents/qquick/xalarmtableviewcontrol.h"
 #include "xcomponents/qquick/xcommontableview.h"
@@ -21,73 +22,15 @@ using GuiQtAdapt::Core;
 
 namespace {
 
-/** Columns and rows beyond these are dropped: a runaway record never stalls the panel. */
-constexpr U32 kMaxColumns = 1024;
-constexpr size_t kMaxRows = 100000;
-
-XTableViewControl::Setup toSetup(const View_List& rec, bool forceSingleLine)
-{
-    XTableViewControl::Setup s;
-    const U32 n = rec.columns ? qMin(rec.columnCount, kMaxColumns) : 0;
-    s.columns.reserve(int(n));
-    for (U32 i = 0; i < n; ++i) {
-        const View_ListColumn& in = rec.columns[i];
-        XTableViewControl::Column c;
-        c.title = Core::cutText(Core::fromUtf8(in.title), Core::kMaxShownText);
-        c.width = in.width;
-        c.align = in.align ? Core::toQAlignment(in.align) : Qt::AlignCenter;
-        if (!(c.align & Qt::AlignHorizontal_Mask))
-            c.align |= Qt::AlignHCenter;
-        if (!(c.align & Qt::AlignVertical_Mask))
-            c.align |= Qt::AlignVCenter;
-        c.dataType = in.dataType;
-        if (in.font) {
-            c.font = Core::toQFont(in.font);
-            c.color = Core::toQColor(in.font->color);
-            c.hasFont = true;
-        }
-        c.hidden = in.hidden != 0;
-        c.editable = in.editable != 0;
-        s.columns.append(c);
-    }
-    s.hideHeader = rec.flags & LIST_HIDE_HEADER;
-    s.filter = rec.flags & LIST_ENABLE_FILTER;
-    s.singleLine = forceSingleLine || (rec.flags & LIST_SINGLE_LINE);
-    s.selectRow = rec.flags & LIST_SELECT_ROW;
-    s.toolbar = rec.flags & LIST_SHOW_TOOLBAR;
-    s.scrollBar = !(rec.flags & LIST_HIDE_SCROLLBAR);
-    s.hidePageButtons = rec.flags & LIST_HIDE_PAGE_BUTTONS;
-    s.hidePageNum = rec.flags & LIST_HIDE_PAGE_NUM;
-    s.hideTotalNum = rec.flags & LIST_HIDE_TOTAL_NUM;
-    s.headerHeight = rec.headerHeight;
-    s.rowHeight = rec.rowHeight;
-    s.headerFont = Core::toQFont(rec.headerFont);
-    if (rec.headerFont)
-        s.headerTextColor = Core::toQColor(rec.headerFont->color);
-    s.contentFont = Core::toQFont(rec.contentFont);
-    if (rec.contentFont)
-        s.contentColor = Core::toQColor(rec.contentFont->color);
-    if (rec.headerColor)
-        s.headerColor = Core::toQColor(rec.headerColor);
-    if (rec.backColor)
-        s.backColor = Core::toQColor(rec.backColor);
-    s.altBackColor = rec.altBackColor ? Core::toQColor(rec.altBackColor) : s.backColor;
-    if (rec.highlightColor)
-        s.highlightColor = Core::toQColor(rec.highlightColor);
-    const QPen grid = Core::toQPen(rec.gridPen);
-    if (rec.gridPen.color) {
-        s.gridColor = grid.color();
-        s.gridWidth = qBound(0, int(grid.widthF()), 16);
-    }
-    const QPen border = Core::toQPen(rec.border);
-    s.borderColor = border.color();
-    s.borderWidth = rec.border.color ? qBound(0, int(border.widthF()), 16) : 0;
-    return s;
-}
-
 XTableViewControl* tableOf(QQuickItem* item)
 {
     return qobject_cast<XTableViewControl*>(item);
+}
+
+/** A table or an alarm bar: both take titles, pages and column visibility. */
+XListContent* contentOf(QQuickItem* item)
+{
+    return dynamic_cast<XListContent*>(item);
 }
 
 } // namespace
@@ -100,7 +43,7 @@ int ViewManage::createTable(const View_List* rec, unsigned int windowId, bool si
     XTableViewControl* table = alarms ? new XAlarmTableViewControl(window) : new XTableViewControl(window);
     const QRect r = Core::toQRect(rec->rect);
     table->setSize(r.size()); // the columns are laid out once, at their final width
-    if (!table->initialze(toSetup(*rec, singleLine), XQmlComponentManage::getInstance()->engine())) {
+    if (!table->initialze(TableSetup::toSetup(*rec, singleLine), XQmlComponentManage::getInstance()->engine())) {
         delete table;
         return -1;
     }
@@ -157,11 +100,11 @@ int ViewManage::View_CreateListSample(const View_listSample* rec, unsigned int w
 
 int ViewManage::View_ChangeListCtrlTitle(unsigned int id, const std::vector<View_Text>& titles)
 {
-    XTableViewControl* table = tableOf(m_lifeCycle->findItemMaybeVisible(id));
+    XListContent* table = contentOf(m_lifeCycle->findItemMaybeVisible(id));
     if (!table)
         return -1;
     QStringList texts;
-    for (size_t i = 0; i < titles.size() && i < kMaxColumns; ++i)
+    for (size_t i = 0; i < titles.size() && i < TableSetup::kMaxColumns; ++i)
         texts << Core::cutText(Core::fromUtf8(titles[i].text), Core::kMaxShownText);
     table->updateHeader(texts);
     return 0;
@@ -169,41 +112,10 @@ int ViewManage::View_ChangeListCtrlTitle(unsigned int id, const std::vector<View
 
 int ViewManage::View_ChangeListCtrlContent(unsigned int id, const std::vector<std::vector<View_ListColData>>& rows)
 {
-    XTableViewControl* table = tableOf(m_lifeCycle->findItemMaybeVisible(id));
+    XListContent* table = contentOf(m_lifeCycle->findItemMaybeVisible(id));
     if (!table)
         return -1;
-    const int columns = table->columnCount();
-    QVector<QVector<XTableCell>> page;
-    page.reserve(int(qMin(rows.size(), kMaxRows)));
-    PictureCacheManage* pictures = PictureCacheManage::getInstance();
-    for (size_t r = 0; r < rows.size() && r < kMaxRows; ++r) {
-        const std::vector<View_ListColData>& in = rows[r];
-        QVector<XTableCell> row;
-        const int n = int(qMin(in.size(), size_t(columns)));
-        row.reserve(n);
-        for (int c = 0; c < n; ++c) {
-            const View_ListColData& d = in[size_t(c)];
-            XTableCell cell;
-            cell.text = Core::cutText(Core::fromUtf8(d.text), Core::kMaxShownText);
-            if (d.image && *d.image) {
-                const QUrl url = pictures->getUrl(Core::fromString(d.image));
-                if (url.isValid())
-                    cell.image = url.toString();
-            }
-            if (d.font) {
-                cell.font = Core::toQFont(d.font);
-                cell.hasFont = true;
-                if (!d.textColor)
-                    cell.textColor = Core::toQColor(d.font->color);
-            }
-            if (d.textColor)
-                cell.textColor = Core::toQColor(d.textColor);
-            if (d.backColor)
-                cell.backColor = Core::toQColor(d.backColor);
-            row.append(std::move(cell));
-        }
-        page.append(std::move(row));
-    }
+    const QVector<QVector<XTableCell>> page = TableSetup::toPage(rows, table->columnCount());
     table->updateData(page);
     return 0;
 }
@@ -214,7 +126,7 @@ int ViewManage::View_ChangeListCtrlFont(unsigned int id, const std::vector<Font*
     if (!table)
         return -1;
     QVector<QPair<QFont, QColor>> list;
-    for (size_t i = 0; i < fonts.size() && i < kMaxColumns; ++i) {
+    for (size_t i = 0; i < fonts.size() && i < TableSetup::kMaxColumns; ++i) {
         const Font* f = fonts[i];
         list.append(qMakePair(Core::toQFont(f), f ? Core::toQColor(f->color) : QColor(Qt::black)));
     }
@@ -239,7 +151,7 @@ int ViewManage::View_GetListCtrlContent(unsigned int, int, int, std::vector<std:
 
 int ViewManage::View_ChangeListCtrlHideCol(unsigned int id, const std::list<std::pair<int, bool>>& columns)
 {
-    XTableViewControl* table = tableOf(m_lifeCycle->findItemMaybeVisible(id));
+    XListContent* table = contentOf(m_lifeCycle->findItemMaybeVisible(id));
     if (!table)
         return -1;
     for (const auto& c : columns)

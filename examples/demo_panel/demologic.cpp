@@ -42,6 +42,8 @@ int g_batch = 41;
 
 // the alarm list of window 1: the newest alarm first, coloured by severity
 const unsigned kAlarms = 130;
+// the same alarms on two alarm bars: a table bar scrolling up, a marquee running left
+const unsigned kAlarmBar = 131, kAlarmLine = 132;
 struct Alarm {
     std::string time, severity, text;
 };
@@ -60,6 +62,23 @@ void showAlarms()
             { it->severity.c_str(), nullptr, nullptr, ink, back }, { it->text.c_str(), nullptr, nullptr, ink, back } });
     }
     View_ChangeListCtrlContent(kAlarms, page);
+
+    // the bars show the ten newest: time of day, and the alarm (its severity in the marquee's colours)
+    std::vector<std::vector<View_ListColData>> bar, line;
+    static std::vector<std::string> times;
+    times.clear();
+    times.reserve(10);
+    int n = 0;
+    for (auto it = g_alarms.rbegin(); it != g_alarms.rend() && n < 10; ++it, ++n) {
+        const bool high = it->severity == "High";
+        const unsigned ink = high ? 0xFFB71C1Cu : it->severity == "Medium" ? 0xFF8D6E00u : 0xFF1C2733u;
+        times.push_back(it->time.substr(11));
+        bar.push_back({ { times.back().c_str(), nullptr, nullptr, ink, 0 }, { it->text.c_str(), nullptr, nullptr, ink, 0 } });
+        line.push_back({ { times.back().c_str(), nullptr, nullptr, 0xFFFFFFFFu, high ? 0xFFB71C1Cu : 0xFF37474Fu },
+            { it->text.c_str(), nullptr, nullptr, 0xFFFFFFFFu, high ? 0xFFB71C1Cu : 0xFF37474Fu } });
+    }
+    View_ChangeListCtrlContent(kAlarmBar, bar);
+    View_ChangeListCtrlContent(kAlarmLine, line);
 }
 
 void raiseAlarm(int n)
@@ -128,7 +147,8 @@ void buildWindow1()
 {
     if (g_window1Built) {
         // the widgets stayed cached while the window was closed: bring them back
-        for (unsigned id : { kTitle, kCarousel, kClock, kStart, kGrey, kDisabled, kPicture, kQr, kAlarms })
+        for (unsigned id :
+            { kTitle, kCarousel, kClock, kStart, kGrey, kDisabled, kPicture, kQr, kAlarms, kAlarmBar, kAlarmLine })
             View_SetWidgetParent(id, kWindow1);
         return;
     }
@@ -161,7 +181,7 @@ void buildWindow1()
         { "Alarm", 0, QGUI_ALIGN_LEFT | QGUI_ALIGN_VCENTER, COL_STRING, nullptr, 0, 0 },
     };
     View_listAlarm alarms {};
-    alarms.list.rect = Rect { 24, 304, 716, 224 };
+    alarms.list.rect = Rect { 24, 304, 716, 182 };
     alarms.list.id = kAlarms;
     alarms.list.columns = columns;
     alarms.list.columnCount = 3;
@@ -175,6 +195,47 @@ void buildWindow1()
     alarms.list.altBackColor = 0xFFF1F4F8u;
     alarms.list.gridPen = Pen { 0xFFC8CFD8u, 1, PEN_SOLID };
     View_CreateListAlarm(&alarms, kWindow1);
+
+    // the table bar beside the buttons: its rows scroll up under the titles
+    static Font barFont = font(16, 0xFF1C2733u);
+    static Font barHeaderFont = font(15, 0xFFFFFFFFu, 600);
+    static const View_ListColumn barColumns[2] = {
+        { "Time", 80, QGUI_ALIGN_HCENTER | QGUI_ALIGN_VCENTER, COL_TIME, nullptr, 0, 0 },
+        { "Active alarms", 0, QGUI_ALIGN_LEFT | QGUI_ALIGN_VCENTER, COL_STRING, nullptr, 0, 0 },
+    };
+    View_listAlarmBar bar {};
+    bar.list.rect = Rect { 424, 140, 316, 148 };
+    bar.list.id = kAlarmBar;
+    bar.list.columns = barColumns;
+    bar.list.columnCount = 2;
+    bar.list.flags = CAROUSE_DIR_TOP << CAROUSE_DIR_SHIFT;
+    bar.list.headerHeight = 28;
+    bar.list.rowHeight = 28;
+    bar.list.headerFont = &barHeaderFont;
+    bar.list.contentFont = &barFont;
+    bar.list.headerColor = 0xFF1C2733u;
+    bar.list.backColor = 0xFFFFFFFFu;
+    bar.list.altBackColor = 0xFFF1F4F8u;
+    bar.list.gridPen = Pen { 0xFFC8CFD8u, 1, PEN_SOLID };
+    View_CreateListAlarmBar(&bar, kWindow1);
+
+    // the marquee over the notice: one cell per column of every alarm, running to the left
+    static Font lineFont = font(18, 0xFFFFFFFFu, 600);
+    static const View_ListColumn lineColumns[2] = {
+        { "Time", 0, QGUI_ALIGN_HCENTER | QGUI_ALIGN_VCENTER, COL_TIME, nullptr, 0, 0 },
+        { "Alarm", 0, QGUI_ALIGN_LEFT | QGUI_ALIGN_VCENTER, COL_STRING, nullptr, 0, 0 },
+    };
+    View_listAlarmBar line {};
+    line.list.rect = Rect { 24, 494, 976, 36 };
+    line.list.id = kAlarmLine;
+    line.list.columns = lineColumns;
+    line.list.columnCount = 2;
+    line.list.flags = (CAROUSE_DIR_LEFT << CAROUSE_DIR_SHIFT) | LIST_HIDE_HEADER;
+    line.list.rowHeight = 36;
+    line.list.contentFont = &lineFont;
+    line.list.backColor = 0xFF37474Fu;
+    line.colSpace = 10;
+    View_CreateListAlarmBar(&line, kWindow1);
     while (g_alarmCount < 3)
         raiseAlarm(g_alarmCount++);
 }
@@ -335,8 +396,13 @@ int onStart()
 
 void every10ms()
 {
-    if (g_current == kWindow1)
+    static int calls = 0;
+    if (g_current == kWindow1) {
         View_CarouselText(kCarousel, -2, 0); // the notice scrolls to the left, 2 px per 10 ms
+        View_CarouselText(kAlarmLine, -1, 0); // the alarm marquee, 1 px per 10 ms
+        if (++calls % 4 == 0)
+            View_CarouselText(kAlarmBar, 0, -1); // the table bar, 1 px per 40 ms
+    }
 }
 
 void every100ms(int)

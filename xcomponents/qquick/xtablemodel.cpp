@@ -200,6 +200,28 @@ void XTableModel::updateData(QVector<QVector<Cell>> next)
     Q_EMIT actualRowCountChanged();
 }
 
+void XTableModel::setPage(const QVector<QVector<XTableCell>>& rows)
+{
+    QVector<QVector<Cell>> page;
+    page.reserve(rows.size());
+    for (const QVector<XTableCell>& row : rows) {
+        QVector<Cell> r;
+        r.reserve(qMin(row.size(), m_columns));
+        for (int c = 0; c < row.size() && c < m_columns; ++c) {
+            const XTableCell& in = row.at(c);
+            Cell cell;
+            cell.text = in.text;
+            cell.image = in.image;
+            cell.textColor = in.textColor.isValid() ? in.textColor.rgba() : 0;
+            cell.backColor = in.backColor.isValid() ? in.backColor.rgba() : 0;
+            cell.font = in.hasFont ? addCellFont(in.font) : -1;
+            r.append(std::move(cell));
+        }
+        page.append(std::move(r));
+    }
+    updateData(std::move(page)); // the page is built here once, never copied
+}
+
 QString XTableModel::cellText(int row, int column) const
 {
     const Cell* c = cell(row, column);

@@ -8,6 +8,16 @@
 #include <QString>
 #include <QVector>
 
+/** One cell as the views layer converts it from the interface record. */
+struct XTableCell {
+    QString text;
+    QString image; /**< URL of the picture, "" for none */
+    QColor textColor; /**< invalid: the column's */
+    QColor backColor; /**< invalid: the row's */
+    QFont font;
+    bool hasFont = false;
+};
+
 /**
  * The cells of a table control. The logic layer keeps the data and sends whole
  * pages (updateData); the model holds what is on the page:
@@ -65,6 +75,8 @@ public:
     void setColumnCount(int columns);
     /** Replaces the page. Rows longer than the column count are cut, shorter ones filled. */
     void updateData(QVector<QVector<Cell>> rows);
+    /** Replaces the page with cells as the views layer converts them (fonts are added as cell fonts). */
+    void setPage(const QVector<QVector<XTableCell>>& rows);
     /** The text of a cell of the page, empty outside it. */
     QString cellText(int row, int column) const;
 

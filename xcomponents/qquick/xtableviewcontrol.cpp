@@ -281,24 +281,7 @@ void XTableViewControl::updateHeader(const QStringList& titles)
 
 void XTableViewControl::updateData(const QVector<QVector<XTableCell>>& rows)
 {
-    QVector<QVector<XTableModel::Cell>> page;
-    page.reserve(rows.size());
-    for (const QVector<XTableCell>& row : rows) {
-        QVector<XTableModel::Cell> r;
-        r.reserve(qMin(row.size(), m_setup.columns.size()));
-        for (int c = 0; c < row.size() && c < m_setup.columns.size(); ++c) {
-            const XTableCell& in = row.at(c);
-            XTableModel::Cell cell;
-            cell.text = in.text;
-            cell.image = in.image;
-            cell.textColor = in.textColor.isValid() ? in.textColor.rgba() : 0;
-            cell.backColor = in.backColor.isValid() ? in.backColor.rgba() : 0;
-            cell.font = in.hasFont ? m_model->addCellFont(in.font) : -1;
-            r.append(std::move(cell));
-        }
-        page.append(std::move(r));
-    }
-    m_model->updateData(std::move(page)); // the page is built here once, never copied
+    m_model->setPage(rows);
 }
 
 void XTableViewControl::changeListCtrlFont(const QVector<QPair<QFont, QColor>>& fonts)

@@ -3,8 +3,10 @@
 
 #include "xcomponents/qquick/xbasecontrol.h"
 #include "xcomponents/qquick/xcommontableview.h"
+#include "xcomponents/qquick/xlistcontent.h"
 #include "xcomponents/qquick/xsettingtoolcontrol.h"
 #include "xcomponents/qquick/xtableheader.h"
+#include "xcomponents/qquick/xtablemodel.h"
 
 #include <QColor>
 #include <QFont>
@@ -16,17 +18,7 @@ class QQmlEngine;
 class XOverlay;
 class XTableFilterDlg;
 class XTableFilterMenu;
-class XTableModel;
 
-/** One cell as the views layer converts it from the interface record. */
-struct XTableCell {
-    QString text;
-    QString image; /**< URL of the picture, "" for none */
-    QColor textColor; /**< invalid: the column's */
-    QColor backColor; /**< invalid: the row's */
-    QFont font;
-    bool hasFont = false;
-};
 
 /**
  * A table: the header row, the body of cells the logic layer fills page by
@@ -43,7 +35,7 @@ struct XTableCell {
  * the XTableFilterDlg, whose values are typed on the keyboard. Both are made
  * on first use and closed when the control is hidden or leaves its window.
  */
-class XTableViewControl : public XBaseControl {
+class XTableViewControl : public XBaseControl, public XListContent {
     Q_OBJECT
 
 public:
@@ -118,17 +110,17 @@ public:
     Q_INVOKABLE void acceptKeyboardText(const QString& text);
     /** The keyboard hid: an open cell is forgotten. */
     Q_INVOKABLE void keyboardClosed();
-    int columnCount() const { return m_setup.columns.size(); }
+    int columnCount() const override { return m_setup.columns.size(); }
     const Column& column(int c) const { return m_setup.columns.at(c); }
 
     /** New titles, one per column (missing ones empty). */
-    void updateHeader(const QStringList& titles);
+    void updateHeader(const QStringList& titles) override;
     /** Replaces the page. */
-    virtual void updateData(const QVector<QVector<XTableCell>>& rows);
+    void updateData(const QVector<QVector<XTableCell>>& rows) override;
     /** Fonts per column, in column order. */
     void changeListCtrlFont(const QVector<QPair<QFont, QColor>>& fonts);
     /** Shows or hides a column; unknown columns are ignored. */
-    void setTableColVisible(int column, bool visible);
+    void setTableColVisible(int column, bool visible) override;
     /** Shows or hides the text of \a row. */
     void setRowTextVisible(int row, bool visible);
     /**
