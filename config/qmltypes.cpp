@@ -10,6 +10,8 @@
 #include "xcomponents/qquick/xquicktableview.h"
 #include "xcomponents/qquick/xalarmbarcontrol.h"
 #include "xcomponents/qquick/xalarmbarmodel.h"
+#include "xcomponents/qquick/xalarmtablebarheader.h"
+#include "xcomponents/qquick/xalarmtablebarheadermodel.h"
 #include "xcomponents/qquick/xhalarmbarcontrol.h"
 #include "xcomponents/qquick/xhalarmbarrepeater.h"
 #include "xcomponents/qquick/xtablefilterdlg.h"
@@ -106,6 +108,9 @@ void registerQmlTypes()
     qmlRegisterType<XAlarmBarControl>(uri, 1, 0, "XAlarmBarControl");
     qmlRegisterType<XHAlarmBarControl>(uri, 1, 0, "XHAlarmBarControl");
     qmlRegisterType<XHAlarmBarRepeater>(uri, 1, 0, "XHAlarmBarRepeater");
+    qmlRegisterType<XAlarmTableBar>(uri, 1, 0, "XAlarmTableBar");
+    qmlRegisterType<XAlarmTableBarHeader>(uri, 1, 0, "XAlarmTableBarHeader");
+    qmlRegisterType<XAlarmTableBarHeaderModel>(uri, 1, 0, "XAlarmTableBarHeaderModel");
     qmlRegisterType<XTableModel>(uri, 1, 0, "XTableModel");
     qmlRegisterType<XSettingToolControl>(uri, 1, 0, "XSettingToolControl");
     // Menus: the drop-down box and its contents

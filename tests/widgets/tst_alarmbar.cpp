@@ -13,7 +13,7 @@
 #include "xcomponents/qquick/xhalarmbarcontrol.h"
 #include "xcomponents/qquick/xhalarmbarrepeater.h"
 #include "xcomponents/qquick/xquickheadermodel.h"
-#include "xcomponents/qquick/xquicktableview.h"
+#include "xcomponents/qquick/xalarmtablebarheader.h"
 #include "xcomponents/qquick/xqmlcomponentmanage.h"
 #include "views/qmlwindowmanage.h"
 
@@ -204,8 +204,8 @@ void tst_AlarmBar::table_bar_band_is_seamless()
     const bool vertical = direction < 2;
     const qreal size = vertical ? b->contentHeight() : b->contentWidth();
     QVERIFY(size > 0);
-    XQuickTableView* first = b->table();
-    XQuickTableView* second = b->secondTable();
+    XAlarmTableBar* first = b->table();
+    XAlarmTableBar* second = b->secondTable();
     const QPointF start = first->position();
     const QPointF startSecond = second->position();
     const qreal expectedGap = (direction == 0 || direction == 2) ? size : -size;

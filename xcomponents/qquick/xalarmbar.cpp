@@ -1,7 +1,7 @@
 #include "xcomponents/qquick/xalarmbar.h"
 
 #include "xcomponents/qquick/xalarmbarmodel.h"
-#include "xcomponents/qquick/xquickheadermodel.h"
+#include "xcomponents/qquick/xalarmtablebarheadermodel.h"
 
 #include <QFontMetrics>
 
@@ -10,7 +10,7 @@
 XAlarmBar::XAlarmBar(QQuickItem* parent)
     : XBaseControl(parent)
     , m_model(new XAlarmBarModel(this))
-    , m_headerModel(new XQuickHeaderModel(this))
+    , m_headerModel(new XAlarmTableBarHeaderModel(this))
 {
     setClip(true);
 }

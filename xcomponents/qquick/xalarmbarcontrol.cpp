@@ -2,7 +2,7 @@
 
 #include "xcomponents/qquick/xalarmbarmodel.h"
 #include "xcomponents/qquick/xquickheadermodel.h"
-#include "xcomponents/qquick/xquicktableview.h"
+#include "xcomponents/qquick/xalarmtablebarheader.h"
 
 #include <QtMath>
 
@@ -20,31 +20,29 @@ XAlarmBarControl::XAlarmBarControl(QQuickItem* parent)
 
 XAlarmBarControl::~XAlarmBarControl() = default;
 
-XQuickTableView* XAlarmBarControl::table() const
+XAlarmTableBar* XAlarmBarControl::table() const
 {
     return m_lead.data();
 }
 
-XQuickTableView* XAlarmBarControl::secondTable() const
+XAlarmTableBar* XAlarmBarControl::secondTable() const
 {
     return m_follow.data();
 }
 
-XQuickTableView* XAlarmBarControl::tableHeader() const
+XAlarmTableBarHeader* XAlarmBarControl::tableHeader() const
 {
     return m_leadHeader.data();
 }
 
-XQuickTableView* XAlarmBarControl::secondTableHeader() const
+XAlarmTableBarHeader* XAlarmBarControl::secondTableHeader() const
 {
     return m_followHeader.data();
 }
 
-XQuickTableView* XAlarmBarControl::makeBody(QQmlEngine* engine, bool header)
+bool XAlarmBarControl::start(XAlarmTableBar* view, QQmlEngine* engine, bool header)
 {
     // made outside the scene and put in once complete, as the tables' views are
-    auto* view = new XQuickTableView;
-    view->setInteractive(false); // the logic layer moves the band
     view->setGridColor(m_setup.gridColor);
     view->setGridWidth(m_setup.gridWidth);
     view->setSingleLine(true);
@@ -53,18 +51,17 @@ XQuickTableView* XAlarmBarControl::makeBody(QQmlEngine* engine, bool header)
                              : view->start(engine, m_model, QUrl(QString::fromLatin1(kContentUrl)));
     view->setParent(this);
     view->setParentItem(this);
-    if (header)
-        view->setZ(1); // the rows pass under the titles
-    return made ? view : nullptr;
+    return made;
 }
 
 bool XAlarmBarControl::build(QQmlEngine* engine)
 {
-    m_lead = makeBody(engine, false);
-    m_follow = makeBody(engine, false);
-    m_leadHeader = makeBody(engine, true);
-    m_followHeader = makeBody(engine, true);
-    if (!m_lead || !m_follow || !m_leadHeader || !m_followHeader)
+    m_lead = new XAlarmTableBar;
+    m_follow = new XAlarmTableBar;
+    m_leadHeader = new XAlarmTableBarHeader;
+    m_followHeader = new XAlarmTableBarHeader;
+    if (!start(m_lead, engine, false) || !start(m_follow, engine, false) || !start(m_leadHeader, engine, true)
+        || !start(m_followHeader, engine, true))
         return false;
     connect(m_model, &XTableModel::modelReset, this, &XAlarmBarControl::relayout);
     return true;
@@ -96,7 +93,8 @@ void XAlarmBarControl::relayout()
     }
     const qreal w = qFloor(total);
     const qreal h = qMax(m_model->rowCount(), 1) * rowHeight();
-    for (XQuickTableView* v : { m_lead.data(), m_follow.data(), m_leadHeader.data(), m_followHeader.data() }) {
+    for (XAlarmTableBar* v : { m_lead.data(), m_follow.data(), static_cast<XAlarmTableBar*>(m_leadHeader.data()),
+             static_cast<XAlarmTableBar*>(m_followHeader.data()) }) {
         v->setColumnWidths(widths);
         v->setWidth(w);
     }

@@ -5,7 +5,8 @@
 
 #include <QPointer>
 
-class XQuickTableView;
+class XAlarmTableBar;
+class XAlarmTableBarHeader;
 
 /**
  * The table alarm bar ("list/QmlAlarmBar.qml", whose root is this item): the
@@ -31,11 +32,11 @@ public:
     ~XAlarmBarControl() override;
 
     /** The copy of the body leading the band, and the one following it. */
-    XQuickTableView* table() const;
-    XQuickTableView* secondTable() const;
+    XAlarmTableBar* table() const;
+    XAlarmTableBar* secondTable() const;
     /** The title rows over each copy (the second one shows only in the sideways directions). */
-    XQuickTableView* tableHeader() const;
-    XQuickTableView* secondTableHeader() const;
+    XAlarmTableBarHeader* tableHeader() const;
+    XAlarmTableBarHeader* secondTableHeader() const;
     /** Size of one copy of the body. */
     qreal contentWidth() const { return m_contentWidth; }
     qreal contentHeight() const { return m_contentHeight; }
@@ -54,12 +55,13 @@ private:
     void setDir();
     /** Puts the following copy (and its titles) one copy after the leading one. */
     void resetPosition();
-    XQuickTableView* makeBody(QQmlEngine* engine, bool header);
+    /** Starts \a view (a copy of the rows, or of the titles) and puts it in the bar. */
+    bool start(XAlarmTableBar* view, QQmlEngine* engine, bool header);
 
-    QPointer<XQuickTableView> m_lead; // the copy leading the band
-    QPointer<XQuickTableView> m_follow;
-    QPointer<XQuickTableView> m_leadHeader;
-    QPointer<XQuickTableView> m_followHeader;
+    QPointer<XAlarmTableBar> m_lead; // the copy leading the band
+    QPointer<XAlarmTableBar> m_follow;
+    QPointer<XAlarmTableBarHeader> m_leadHeader;
+    QPointer<XAlarmTableBarHeader> m_followHeader;
     qreal m_offset = 0; /**< how far the leading copy has moved from its place */
     qreal m_contentWidth = 0;
     qreal m_contentHeight = 0;

@@ -1,0 +1,8 @@
+#include "xcomponents/qquick/xalarmtablebarheadermodel.h"
+
+XAlarmTableBarHeaderModel::XAlarmTableBarHeaderModel(QObject* parent)
+    : XQuickHeaderModel(parent)
+{
+}
+
+XAlarmTableBarHeaderModel::~XAlarmTableBarHeaderModel() = default;
