@@ -307,6 +307,12 @@ void tst_MenuTree::tree_select_sets_current_entry_and_text()
     QCOMPARE(box->displayText(), QStringLiteral("Line A / Valve"));
     QCOMPARE(View_ChangeMenuTreeSelect(22, 5, nullptr), 0); // null text keeps the text
     QCOMPARE(box->displayText(), QStringLiteral("Line A / Valve"));
+    // an entry inside a collapsed node: the nodes above it open so that it shows
+    const NQmlTreeModelToTableModel* proxy = control(22)->treeview()->treeView()->proxy();
+    QVERIFY(!shownTexts(proxy).contains("--Fan"));
+    QCOMPARE(View_ChangeMenuTreeSelect(22, 110, nullptr), 0);
+    QVERIFY(shownTexts(proxy).contains("--Fan"));
+    QVERIFY(shownTexts(proxy).contains("--Valve")); // what was open stays open
     // the current entry is drawn highlighted (row 3 is "Valve")
     QCOMPARE(View_ChangeMenuTreeSelect(22, 101, &text), 0);
     QCOMPARE(View_MenuPopupDropdownBox(22), 0);

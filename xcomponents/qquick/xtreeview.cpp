@@ -71,10 +71,31 @@ void XTreeview::setBgImage(const QUrl& url)
 
 void XTreeview::updateSelection(int index)
 {
-    if (m_currentIndex == index)
+    if (m_currentIndex != index) {
+        m_currentIndex = index;
+        Q_EMIT currentIndexChanged();
+    }
+    revealEntry(index);
+}
+
+void XTreeview::revealEntry(int index)
+{
+    // the chosen entry is shown: every node above it is expanded, from the top down
+    if (!m_view)
         return;
-    m_currentIndex = index;
-    Q_EMIT currentIndexChanged();
+    const QModelIndexList hits = m_model->match(m_model->index(0, 0), TreeModel::EntryIndexRole, index, 1,
+        Qt::MatchExactly | Qt::MatchRecursive);
+    if (hits.isEmpty())
+        return;
+    QVector<QModelIndex> ancestors;
+    for (QModelIndex up = hits.first().parent(); up.isValid(); up = up.parent())
+        ancestors.prepend(up);
+    NQmlTreeModelToTableModel* proxy = m_view->proxy();
+    for (const QModelIndex& node : qAsConst(ancestors)) {
+        const int row = proxy->rowOf(node);
+        if (row >= 0 && !proxy->isExpanded(row))
+            proxy->expand(row);
+    }
 }
 
 void XTreeview::updateData(std::unique_ptr<TreeItem> root)

@@ -61,8 +61,11 @@ public:
     Q_INVOKABLE void setBgImage(const QUrl& url);
 
     int currentIndex() const { return m_currentIndex; }
-    /** Highlights the entry numbered \a index; a number no entry has highlights none. */
+    /** Highlights the entry numbered \a index and expands the nodes above it; a number no entry has
+     *  highlights none. */
     Q_INVOKABLE void updateSelection(int index);
+    /** Expands every node above the entry numbered \a index, so that it can be seen. */
+    void revealEntry(int index);
 
     TreeModel* model() const { return m_model; }
     /** Replaces the tree; nodes marked as initially expanded are expanded. */
