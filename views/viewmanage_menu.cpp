@@ -245,7 +245,7 @@ int ViewManage::View_ChangeMenuContent(unsigned int id, const std::list<View_Tex
     return 0;
 }
 
-int ViewManage::View_ChangeMenuSelect(unsigned int id, int index, const View_Image*, const View_Text* text)
+int ViewManage::View_ChangeMenuSelect(unsigned int id, int index, const View_Image* image, const View_Text* text)
 {
     QQuickItem* item = m_lifeCycle->findItemMaybeVisible(id);
     XListViewControl* list = listOf(item);
@@ -255,6 +255,10 @@ int ViewManage::View_ChangeMenuSelect(unsigned int id, int index, const View_Ima
     if (auto* box = qobject_cast<XQuickComboBox*>(item)) {
         if (text)
             box->setDisplayText(shownText(text->text));
+        if (image) // the chosen entry's picture before the text; an empty path takes it away
+            box->setDisplayImage(image->path && *image->path
+                    ? PictureCacheManage::getInstance()->getUrl(GuiQtAdapt::Core::fromString(image->path))
+                    : QUrl());
     }
     return 0;
 }

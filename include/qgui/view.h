@@ -448,8 +448,9 @@ QGUI_EXPORT int View_CreateListAlarmBar(const View_listAlarmBar* rec, unsigned i
 /** Replaces the entries of a flat menu (texts cut to 4096 characters); 0, or -1 for an unknown id or a tree
  * menu. */
 QGUI_EXPORT int View_ChangeMenuContent(unsigned int id, const std::list<View_Text>& entries);
-/** Highlights entry `index` of a flat menu and sets the box's display text from `text` (null keeps the
- * text; the image is not shown and may be null); 0, or -1 for an unknown id or a tree menu. */
+/** Highlights entry `index` of a flat menu and sets the box's display text from `text` and its picture
+ * before the text from `image` (null keeps either; an image with a null or empty path takes the picture
+ * away); 0, or -1 for an unknown id or a tree menu. */
 QGUI_EXPORT int View_ChangeMenuSelect(
     unsigned int id, int index, const View_Image* image, const View_Text* text);
 /** Rebuilds a tree menu's content from its root node (null empties it; cycles and null child arrays are

@@ -14,7 +14,9 @@
 #include "xcomponents/qquick/xlistviewcontrol.h"
 #include "xcomponents/qquick/xquickcombobox.h"
 
+#include <QImage>
 #include <QQuickItem>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <qgui/events.h>
@@ -31,6 +33,7 @@ class tst_Menu : public QObject {
 private Q_SLOTS:
     void init();
     void cleanup();
+    void select_shows_the_chosen_entrys_picture();
     void every_kind_builds_a_closed_box_data();
     void every_kind_builds_a_closed_box();
     void null_record_or_unknown_window_makes_nothing();
@@ -349,6 +352,30 @@ void tst_Menu::select_sets_the_display_text()
     QCOMPARE(box(16)->displayText(), shown);
     QCOMPARE(list(16)->currentIndex(), 2);
     QVERIFY(TestUtil::waitForFrame(m_panel.view())); // a huge text still draws
+}
+
+void tst_Menu::select_shows_the_chosen_entrys_picture()
+{
+    QTemporaryDir dir;
+    QImage green(32, 32, QImage::Format_RGB32);
+    green.fill(QColor(0, 200, 0));
+    const QByteArray path = (dir.path() + "/green.png").toUtf8();
+    QVERIFY(green.save(QString::fromUtf8(path)));
+    View_Menu m = menu(18, Rect { 100, 100, 240, 40 });
+    QCOMPARE(View_CreateMenuConst(reinterpret_cast<const View_MenuConst*>(&m), A), 0);
+    fill(18, 3);
+    const View_Text t { 0, Rect {}, 0, "entry 1", nullptr, nullptr };
+    const View_Image picture { 0, Rect {}, 0, path.constData(), 0 };
+    QCOMPARE(View_ChangeMenuSelect(18, 1, &picture, &t), 0);
+    QVERIFY(!box(18)->displayImage().isEmpty());
+    // drawn before the text, on the left of the box
+    QTRY_COMPARE(QColor(m_panel.view()->grabWindow().pixel(m_panel.scenePoint(box(18), QPointF(12, 20)))),
+        QColor(0, 200, 0));
+    QCOMPARE(View_ChangeMenuSelect(18, 2, nullptr, &t), 0); // null keeps the picture
+    QVERIFY(!box(18)->displayImage().isEmpty());
+    const View_Image none { 0, Rect {}, 0, "", 0 };
+    QCOMPARE(View_ChangeMenuSelect(18, 2, &none, nullptr), 0); // an empty path takes it away
+    QVERIFY(box(18)->displayImage().isEmpty());
 }
 
 void tst_Menu::box_and_open_list_are_visible_on_screen()

@@ -15,7 +15,9 @@
 #include "xcomponents/qquick/xtablemodel.h"
 #include "xcomponents/qquick/xtableviewcontrol.h"
 
+#include <QImage>
 #include <QQuickItem>
+#include <QTemporaryDir>
 #include <QSignalSpy>
 #include <QtQuick/private/qquicktext_p.h>
 #include <QtQuickTemplates2/private/qquickscrollbar_p.h>
@@ -47,6 +49,7 @@ private Q_SLOTS:
     void flicking_reports_moving_and_the_scroll_bar_follows();
     void alarm_list_keeps_the_rows_being_read();
     void bad_pages_are_cut_not_trusted();
+    void cell_pictures_show_before_the_text();
 
 private:
     static XTableViewControl* table(unsigned id)
@@ -630,6 +633,25 @@ void tst_Tables::alarm_list_keeps_the_rows_being_read()
     // fewer rows: nothing moves
     QCOMPARE(View_ChangeListCtrlContent(130, page(104, 3)), 0);
     QCOMPARE(v->contentY() - v->originY(), 13 * v->rowHeight());
+}
+
+void tst_Tables::cell_pictures_show_before_the_text()
+{
+    QTemporaryDir dir;
+    QImage green(32, 32, QImage::Format_RGB32);
+    green.fill(QColor(0, 200, 0));
+    const QByteArray path = (dir.path() + "/green.png").toUtf8();
+    QVERIFY(green.save(QString::fromUtf8(path)));
+    const View_List rec = record(120);
+    QCOMPARE(View_CreateListCtrl(&rec, A), 0);
+    std::vector<std::vector<View_ListColData>> rows { { { "with picture", path.constData(), nullptr, 0, 0 },
+        { "1", "missing.png", nullptr, 0, 0 } } };
+    QCOMPARE(View_ChangeListCtrlContent(120, rows), 0);
+    XTableViewControl* t = table(120);
+    const QPoint left = m_panel.scenePoint(t->view(), QPointF(10, 15));
+    QTRY_COMPARE(QColor(m_panel.view()->grabWindow().pixel(left)), QColor(0, 200, 0));
+    // a picture that is not there shows no picture: the text starts at the left
+    QCOMPARE(t->model()->data(t->model()->index(0, 1), XTableModel::ImageRole).toString(), QString());
 }
 
 QGUI_GUIAPP_TEST_MAIN(tst_Tables)

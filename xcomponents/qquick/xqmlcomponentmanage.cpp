@@ -1,6 +1,7 @@
 #include "xcomponents/qquick/xqmlcomponentmanage.h"
 
 #include "platform/nlogger.h"
+#include "xcomponents/qquick/picturecachemanage.h"
 
 #include <QQmlComponent>
 #include <QQmlContext>
@@ -24,6 +25,7 @@ void XQmlComponentManage::setEngine(QQmlEngine* engine)
         return;
     clear(); // components belong to the engine that compiled them
     m_engine = engine;
+    PictureCacheManage::attach(engine); // project pictures (buttons, cells, menu boxes) load from the start
 }
 
 void XQmlComponentManage::clear()

@@ -92,6 +92,14 @@ void XQuickComboBox::setDisplayText(const QString& text)
     Q_EMIT displayTextChanged();
 }
 
+void XQuickComboBox::setDisplayImage(const QUrl& url)
+{
+    if (url == m_displayImage)
+        return;
+    m_displayImage = url;
+    Q_EMIT displayImageChanged();
+}
+
 void XQuickComboBox::setDisplayTextFont(const QFont& font)
 {
     m_displayFont = font;

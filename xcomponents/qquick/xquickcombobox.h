@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QFont>
 #include <QPointer>
+#include <QUrl>
 
 class XPopup;
 
@@ -32,6 +33,7 @@ class XQuickComboBox : public XBaseControl {
     Q_PROPERTY(int borderWidth READ borderWidth WRITE setBorderWidth NOTIFY styleChanged)
     Q_PROPERTY(QQuickItem* view READ view WRITE setView NOTIFY viewChanged)
     Q_PROPERTY(QString displayText READ displayText WRITE setDisplayText NOTIFY displayTextChanged)
+    Q_PROPERTY(QUrl displayImage READ displayImage WRITE setDisplayImage NOTIFY displayImageChanged)
     Q_PROPERTY(QFont displayFont READ displayFont WRITE setDisplayTextFont NOTIFY styleChanged)
     Q_PROPERTY(int displayHAlign READ displayHAlign NOTIFY styleChanged)
     Q_PROPERTY(int displayVAlign READ displayVAlign NOTIFY styleChanged)
@@ -66,6 +68,9 @@ public:
 
     QString displayText() const { return m_displayText; }
     Q_INVOKABLE void setDisplayText(const QString& text);
+    QUrl displayImage() const { return m_displayImage; }
+    /** The picture shown before the display text (the chosen entry's); an empty URL shows none. */
+    Q_INVOKABLE void setDisplayImage(const QUrl& url);
     QFont displayFont() const { return m_displayFont; }
     void setDisplayTextFont(const QFont& font);
     /** Alignment of the display text (QGuiAlign bits) and its margin from an aligned edge. */
@@ -89,6 +94,7 @@ Q_SIGNALS:
     void styleChanged();
     void viewChanged();
     void displayTextChanged();
+    void displayImageChanged();
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -110,6 +116,7 @@ private:
     QColor m_boxColor = Qt::white;
     int m_borderWidth = 1;
     QString m_displayText;
+    QUrl m_displayImage;
     QFont m_displayFont;
     int m_hAlign = Qt::AlignLeft;
     int m_vAlign = Qt::AlignVCenter;

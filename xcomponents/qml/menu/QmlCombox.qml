@@ -14,10 +14,22 @@ XQuickComboBox {
         border.width: 1
         border.color: box.view ? box.view.frameColor : "black" // the list's or the tree's frame
     }
+    Image {
+        id: picture
+        objectName: "comboImage"
+        visible: box.displayImage != ""
+        source: box.displayImage
+        x: box.displayMargin
+        y: 3
+        height: Math.max(0, box.height - 6)
+        width: visible ? height : 0
+        fillMode: Image.PreserveAspectFit
+        asynchronous: true
+    }
     Text {
         objectName: "comboText"
         anchors.fill: parent
-        anchors.leftMargin: box.displayMargin
+        anchors.leftMargin: box.displayMargin + (picture.visible ? picture.width + 4 : 0)
         anchors.rightMargin: arrow.width + box.displayMargin
         text: box.displayText
         font: box.displayFont
