@@ -14,6 +14,8 @@
 #include "xcomponents/qquick/xalarmtablebarheadermodel.h"
 #include "xcomponents/qquick/xhalarmbarcontrol.h"
 #include "xcomponents/qquick/xhalarmbarrepeater.h"
+#include "xcomponents/qquick/xlistmodel.h"
+#include "xcomponents/qquick/xlistview.h"
 #include "xcomponents/qquick/xtablefilterdlg.h"
 #include "xcomponents/qquick/xtablefiltermenu.h"
 #include "xcomponents/qquick/xtableheader.h"
@@ -108,6 +110,9 @@ void registerQmlTypes()
     qmlRegisterType<XAlarmBarControl>(uri, 1, 0, "XAlarmBarControl");
     qmlRegisterType<XHAlarmBarControl>(uri, 1, 0, "XHAlarmBarControl");
     qmlRegisterType<XHAlarmBarRepeater>(uri, 1, 0, "XHAlarmBarRepeater");
+    qmlRegisterType<XListModel>(uri, 1, 0, "XListModel");
+    qmlRegisterType<XQuickListView>(uri, 1, 0, "XQuickListView");
+    qmlRegisterType<XListView>(uri, 1, 0, "XListView");
     qmlRegisterType<XAlarmTableBar>(uri, 1, 0, "XAlarmTableBar");
     qmlRegisterType<XAlarmTableBarHeader>(uri, 1, 0, "XAlarmTableBarHeader");
     qmlRegisterType<XAlarmTableBarHeaderModel>(uri, 1, 0, "XAlarmTableBarHeaderModel");

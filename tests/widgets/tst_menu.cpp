@@ -11,11 +11,13 @@
 #include "platform/xpopup.h"
 #include "views/viewmanage.h"
 #include "xcomponents/qquick/xbasecontrol.h"
+#include "xcomponents/qquick/xlistmodel.h"
 #include "xcomponents/qquick/xlistviewcontrol.h"
 #include "xcomponents/qquick/xquickcombobox.h"
 
 #include <QImage>
 #include <QQuickItem>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -34,6 +36,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void select_shows_the_chosen_entrys_picture();
+    void list_model_announces_only_changed_rows();
     void every_kind_builds_a_closed_box_data();
     void every_kind_builds_a_closed_box();
     void null_record_or_unknown_window_makes_nothing();
@@ -376,6 +379,28 @@ void tst_Menu::select_shows_the_chosen_entrys_picture()
     const View_Image none { 0, Rect {}, 0, "", 0 };
     QCOMPARE(View_ChangeMenuSelect(18, 2, &none, nullptr), 0); // an empty path takes it away
     QVERIFY(box(18)->displayImage().isEmpty());
+}
+
+void tst_Menu::list_model_announces_only_changed_rows()
+{
+    XListModel model;
+    QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+    QSignalSpy changes(&model, &QAbstractItemModel::dataChanged);
+    model.setEntries({ "a", "b", "c" });
+    QCOMPARE(resets.size(), 1);
+    model.setEntries({ "a", "B", "c" }); // as many entries: only the changed row
+    QCOMPARE(resets.size(), 1);
+    QCOMPARE(changes.size(), 1);
+    QCOMPARE(changes.first().at(0).value<QModelIndex>().row(), 1);
+    changes.clear();
+    model.setCurrentIndex(2);
+    model.setCurrentIndex(0); // the old and the new current row
+    QCOMPARE(changes.size(), 3);
+    QCOMPARE(model.data(model.index(0), XListModel::CurrentRole).toBool(), true);
+    QCOMPARE(model.data(model.index(2), XListModel::CurrentRole).toBool(), false);
+    model.setCurrentIndex(99); // no such row: none is current, nothing to announce for it
+    QCOMPARE(model.data(model.index(0), XListModel::CurrentRole).toBool(), false);
+    QCOMPARE(model.data(model.index(7), Qt::DisplayRole), QVariant());
 }
 
 void tst_Menu::box_and_open_list_are_visible_on_screen()

@@ -1,6 +1,7 @@
 #include "xcomponents/qquick/xlistviewcontrol.h"
 
 #include "platform/logiclayercaller.h"
+#include "xcomponents/qquick/xlistmodel.h"
 
 #include <QMouseEvent>
 #include <QTouchEvent>
@@ -14,6 +15,7 @@ constexpr qreal kDragDistance = 10.0; // pixels a press moves before it scrolls 
 
 XListViewControl::XListViewControl(QQuickItem* parent)
     : XBaseControl(parent)
+    , m_model(new XListModel(this))
 {
     setAcceptedMouseButtons(Qt::LeftButton);
     setAcceptTouchEvents(true);
@@ -25,6 +27,7 @@ XListViewControl::~XListViewControl() = default;
 void XListViewControl::setEntries(const QStringList& entries)
 {
     m_entries = entries;
+    m_model->setEntries(entries);
     Q_EMIT entriesChanged();
     setContentY(0);
 }
@@ -34,6 +37,7 @@ void XListViewControl::setCurrentIndex(int index)
     if (m_currentIndex == index)
         return;
     m_currentIndex = index;
+    m_model->setCurrentIndex(index);
     Q_EMIT currentIndexChanged();
 }
 

@@ -8,6 +8,8 @@
 #include <QStringList>
 #include <QUrl>
 
+class XListModel;
+
 /**
  * Flat list content of a menu ("qrc:/list/QmlListView.qml" draws it): one
  * entry per row, the current entry highlighted. The list does not choose
@@ -23,6 +25,7 @@
 class XListViewControl : public XBaseControl {
     Q_OBJECT
     Q_PROPERTY(QStringList entries READ entries WRITE setEntries NOTIFY entriesChanged)
+    Q_PROPERTY(XListModel* listModel READ listModel CONSTANT)
     Q_PROPERTY(int currentIndex READ currentIndex WRITE setCurrentIndex NOTIFY currentIndexChanged)
     Q_PROPERTY(int rowHeight READ rowHeight WRITE setRowHeight NOTIFY styleChanged)
     Q_PROPERTY(qreal contentY READ contentY WRITE setContentY NOTIFY contentYChanged)
@@ -44,6 +47,8 @@ public:
     int getItemType() const override { return TypeMenuList; }
 
     QStringList entries() const { return m_entries; }
+    /** The entries and the current one as a model, for the list drawn in the QML file. */
+    XListModel* listModel() const { return m_model; }
     /** Replaces the entries; the list scrolls back to the top and keeps the current index. */
     Q_INVOKABLE void setEntries(const QStringList& entries);
     int count() const { return m_entries.size(); }
@@ -96,6 +101,7 @@ private:
     void releaseAt();
     qreal maxContentY() const;
 
+    XListModel* m_model; // object child
     QStringList m_entries;
     int m_currentIndex = -1;
     int m_rowHeight = 24;

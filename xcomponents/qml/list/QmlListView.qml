@@ -20,37 +20,29 @@ XListViewControl {
         visible: source != ""
         fillMode: Image.Stretch
     }
-    ListView {
+    XListView {
         id: list
         objectName: "listEntries"
         anchors.fill: parent
         anchors.margins: root.borderWidth
-        clip: true
-        interactive: false
         // rows are made only while the list can be seen (a closed pop-up makes none)
-        model: root.visible ? root.entries : []
+        listModel: root.visible ? root.listModel : null
+        offsetY: root.contentY
         delegate: Rectangle {
             objectName: "listEntry" + index
             width: list.width
             height: root.rowHeight
-            color: index === root.currentIndex ? root.highlightColor : "transparent"
+            color: model.current ? root.highlightColor : "transparent"
             Text {
                 anchors.fill: parent
                 anchors.leftMargin: 4
                 anchors.rightMargin: 4
-                text: modelData
+                text: model.display
                 font: root.entryFont
                 color: root.fontColor
                 elide: Text.ElideRight
                 verticalAlignment: Text.AlignVCenter
             }
-        }
-        function follow() { list.contentY = list.originY + root.contentY }
-        onCountChanged: follow()
-        Component.onCompleted: follow()
-        Connections {
-            target: root
-            function onContentYChanged() { list.follow() }
         }
     }
 }
