@@ -5,6 +5,7 @@
 #include "testutil.h"
 #include "views/qmlwindowmanage.h"
 #include "views/viewmanage.h"
+#include "views/virtualkeyboardmanager.h"
 #include "xcomponents/qquick/xbasecontrol.h"
 #include "xcomponents/qquick/xqmlcomponentmanage.h"
 
@@ -96,6 +97,20 @@ QPoint PanelFixture::sceneCenter(const QQuickItem* item) const
 void PanelFixture::click(QPoint p)
 {
     QTest::mouseClick(m_view.get(), Qt::LeftButton, Qt::NoModifier, p);
+}
+
+bool PanelFixture::typeOnKeyboard(const QStringList& keys)
+{
+    VirtualKeyboardManager* vkb = VirtualKeyboardManager::instance();
+    if (!TestUtil::waitForFrame(m_view.get()))
+        return false;
+    for (const QString& k : keys) {
+        QQuickItem* key = TestUtil::findItem(vkb->keyboardItem(), "key_" + k);
+        if (!key || !key->isVisible())
+            return false;
+        click(sceneCenter(key));
+    }
+    return true;
 }
 
 void PanelFixture::press(QPoint p)

@@ -2,6 +2,7 @@
 #define PANELFIXTURE_H
 
 #include <QPoint>
+#include <QStringList>
 #include <QSize>
 
 #include <memory>
@@ -45,6 +46,8 @@ public:
     QPoint scenePoint(const QQuickItem* item, QPointF local) const;
     QPoint sceneCenter(const QQuickItem* item) const;
     void click(QPoint scenePos);
+    /** Clicks the on-screen keyboard's keys by name ("4", "q", "clear", "enter"); false when one is not shown. */
+    bool typeOnKeyboard(const QStringList& keys);
     void touch(QPoint scenePos);
     void press(QPoint scenePos);
     void release(QPoint scenePos);

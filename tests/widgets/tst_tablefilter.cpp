@@ -47,7 +47,6 @@ private:
     XTableViewControl* makeTable(unsigned id, bool filter);
     QPoint titleCenter(XTableViewControl* t, int column) const;
     void tap(QQuickItem* root, const char* name);
-    void typeOnKeyboard(const QStringList& keys);
 
     PanelFixture m_panel;
     EventRecorder m_rec;
@@ -94,17 +93,6 @@ void tst_TableFilter::tap(QQuickItem* root, const char* name)
     QQuickItem* item = TestUtil::findItem(root, QString::fromLatin1(name));
     QVERIFY2(item && item->isVisible(), name);
     m_panel.click(m_panel.sceneCenter(item));
-}
-
-void tst_TableFilter::typeOnKeyboard(const QStringList& keys)
-{
-    VirtualKeyboardManager* vkb = VirtualKeyboardManager::instance();
-    QVERIFY(TestUtil::waitForFrame(m_panel.view()));
-    for (const QString& k : keys) {
-        QQuickItem* key = TestUtil::findItem(vkb->keyboardItem(), "key_" + k);
-        QVERIFY2(key && key->isVisible(), qPrintable(k));
-        m_panel.click(m_panel.sceneCenter(key));
-    }
 }
 
 void tst_TableFilter::init()
@@ -304,7 +292,7 @@ void tst_TableFilter::the_dialog_sends_the_typed_conditions()
 
     tap(dlg, "value1");
     QVERIFY(vkb->isShown());
-    typeOnKeyboard(keys1 + QStringList { "enter" });
+    QVERIFY(m_panel.typeOnKeyboard(keys1 + QStringList { "enter" }));
     QVERIFY(!vkb->isShown());
     QCOMPARE(dlg->value1(), keys1.join(QString()));
     if (!keys2.isEmpty()) {
@@ -314,7 +302,7 @@ void tst_TableFilter::the_dialog_sends_the_typed_conditions()
         tap(TestUtil::findItem(dlg, "operator2"), qPrintable(QString("operatorEntry%1").arg(op2Index)));
         QCOMPARE(dlg->operator2Index(), op2Index);
         tap(dlg, "value2");
-        typeOnKeyboard(keys2 + QStringList { "enter" });
+        QVERIFY(m_panel.typeOnKeyboard(keys2 + QStringList { "enter" }));
     }
     tap(dlg, orJoin ? "orButton" : "andButton");
     QCOMPARE(dlg->joinOr(), orJoin);

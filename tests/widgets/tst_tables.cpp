@@ -59,7 +59,6 @@ private:
     View_List record(unsigned id, Rect r = Rect { 20, 20, 600, 300 }) const;
     static std::vector<std::vector<View_ListColData>> page(int rows, int columns, const char* tag = "");
     QPoint cellCenter(XTableViewControl* t, int row, int column) const;
-    void typeOnKeyboard(const QStringList& keys);
 
     PanelFixture m_panel;
     EventRecorder m_rec;
@@ -112,17 +111,6 @@ QPoint tst_Tables::cellCenter(XTableViewControl* t, int row, int column) const
     const qreal x = v->columnX(column) + v->columnWidthAt(column) / 2 - (v->contentX() - v->originX());
     const qreal y = row * v->rowHeight() + v->rowHeight() / 2 - (v->contentY() - v->originY());
     return m_panel.scenePoint(v, QPointF(x, y));
-}
-
-void tst_Tables::typeOnKeyboard(const QStringList& keys)
-{
-    VirtualKeyboardManager* vkb = VirtualKeyboardManager::instance();
-    QVERIFY(TestUtil::waitForFrame(m_panel.view()));
-    for (const QString& k : keys) {
-        QQuickItem* key = TestUtil::findItem(vkb->keyboardItem(), "key_" + k);
-        QVERIFY2(key && key->isVisible(), qPrintable(k));
-        m_panel.click(m_panel.sceneCenter(key));
-    }
 }
 
 void tst_Tables::init()
@@ -477,7 +465,7 @@ void tst_Tables::paging_bar_reports_and_shows_the_logic_layers_numbers()
     m_panel.click(m_panel.sceneCenter(TestUtil::findItem(bar, "pageButton")));
     QVERIFY(VirtualKeyboardManager::instance()->isShown());
     QCOMPARE(VirtualKeyboardManager::instance()->inputLine()->property("text").toString(), QString("4"));
-    typeOnKeyboard({ "clear", "1", "2", "enter" });
+    QVERIFY(m_panel.typeOnKeyboard({ "clear", "1", "2", "enter" }));
     QCOMPARE(m_rec.eventsWithCode(EVT_LIST_GOTO_PAGE).size(), 1);
     QCOMPARE(m_rec.eventsWithCode(EVT_LIST_GOTO_PAGE).first().intAt(0), 12);
     QCOMPARE(m_rec.eventsWithCode(EVT_VKB_ENTER).size(), 0);
@@ -513,14 +501,14 @@ void tst_Tables::cells_are_edited_through_the_keyboard_in_edit_mode()
     m_panel.click(cellCenter(t, 1, 1)); // a 32-bit column: decimal keys with its text
     QVERIFY(vkb->isShown());
     QCOMPARE(vkb->inputLine()->property("text").toString(), QString("b1"));
-    typeOnKeyboard({ "clear", "4", "2", "enter" });
+    QVERIFY(m_panel.typeOnKeyboard({ "clear", "4", "2", "enter" }));
     QVERIFY(!vkb->isShown());
     QCOMPARE(t->model()->cellText(1, 1), QString("42"));
     m_panel.click(cellCenter(t, 3, 0)); // a text column: the letters
     QVERIFY(vkb->isShown());
-    typeOnKeyboard({ "o", "k", "enter" }); // the opened text is selected: typing replaces it
+    QVERIFY(m_panel.typeOnKeyboard({ "o", "k", "enter" })); // the opened text is selected: typing replaces it
     m_panel.click(cellCenter(t, 1, 1));
-    typeOnKeyboard({ "clear", "7", "enter" });
+    QVERIFY(m_panel.typeOnKeyboard({ "clear", "7", "enter" }));
     m_rec.clear();
     QCOMPARE(View_ChangeListCtrlEditMode(100, 1), -1);
     QCOMPARE(m_rec.eventsWithCode(EVT_LIST_EDIT_COMMIT).value(0).text(), QString("1,1=7\n3,0=ok\n"));
@@ -579,7 +567,7 @@ void tst_Tables::table_deleted_while_the_keyboard_edits_a_cell()
     QCOMPARE(m_rec.count(), 0);
     // the keyboard works for the logic layer again afterwards
     QCOMPARE(View_PopupVirtualKeyboard(7, VKB_DECIMAL, "1"), 0);
-    typeOnKeyboard({ "enter" });
+    QVERIFY(m_panel.typeOnKeyboard({ "enter" }));
     QCOMPARE(m_rec.eventsWithCode(EVT_VKB_ENTER).value(0).id, 7u);
 }
 

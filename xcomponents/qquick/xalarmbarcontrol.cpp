@@ -72,25 +72,10 @@ void XAlarmBarControl::relayout()
     if (!m_lead || !m_follow)
         return;
     // the columns: fixed widths kept, the others share what is left of the bar
-    const int n = m_setup.columns.size();
-    qreal fixed = 0;
-    int shared = 0;
-    for (const XTableViewControl::Column& c : qAsConst(m_setup.columns)) {
-        if (c.hidden)
-            continue;
-        if (c.width > 0)
-            fixed += c.width;
-        else
-            ++shared;
-    }
-    const qreal share = shared ? qMax<qreal>(0, (width() - fixed) / shared) : 0;
-    QVector<qreal> widths(n, 0);
+    const QVector<qreal> widths = XTableViewControl::columnWidths(m_setup.columns, width());
     qreal total = 0;
-    for (int i = 0; i < n; ++i) {
-        const XTableViewControl::Column& c = m_setup.columns.at(i);
-        widths[i] = c.hidden ? 0 : (c.width > 0 ? c.width : share);
-        total += widths[i];
-    }
+    for (qreal w : widths)
+        total += w;
     const qreal w = qFloor(total);
     const qreal h = qMax(m_model->rowCount(), 1) * rowHeight();
     for (XAlarmTableBar* v : { m_lead.data(), m_follow.data(), static_cast<XAlarmTableBar*>(m_leadHeader.data()),

@@ -163,12 +163,11 @@ int XTableViewControl::headerHeight() const
     return m_setup.headerHeight > 0 ? m_setup.headerHeight : QFontMetrics(m_setup.headerFont).height() + 12;
 }
 
-void XTableViewControl::calcColumnWidth()
+QVector<qreal> XTableViewControl::columnWidths(const QVector<Column>& columns, qreal width)
 {
-    const int n = m_setup.columns.size();
     qreal fixed = 0;
     int shared = 0;
-    for (const Column& c : m_setup.columns) {
+    for (const Column& c : columns) {
         if (c.hidden)
             continue;
         if (c.width > 0)
@@ -176,12 +175,18 @@ void XTableViewControl::calcColumnWidth()
         else
             ++shared;
     }
-    const qreal share = shared ? qMax<qreal>(0, (width() - fixed) / shared) : 0;
-    QVector<qreal> widths(n, 0);
-    for (int i = 0; i < n; ++i) {
-        const Column& c = m_setup.columns.at(i);
+    const qreal share = shared ? qMax<qreal>(0, (width - fixed) / shared) : 0;
+    QVector<qreal> widths(columns.size(), 0);
+    for (int i = 0; i < columns.size(); ++i) {
+        const Column& c = columns.at(i);
         widths[i] = c.hidden ? 0 : (c.width > 0 ? c.width : share);
     }
+    return widths;
+}
+
+void XTableViewControl::calcColumnWidth()
+{
+    const QVector<qreal> widths = columnWidths(m_setup.columns, width());
     if (m_view)
         m_view->setColumnWidths(widths);
     if (m_header)

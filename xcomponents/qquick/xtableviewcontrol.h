@@ -142,6 +142,8 @@ Q_SIGNALS:
     void keyboardHideRequested();
 
 public:
+    /** Widths of \a columns in \a width: fixed widths kept, the others sharing what is left; hidden ones 0. */
+    static QVector<qreal> columnWidths(const QVector<Column>& columns, qreal width);
     /** Column widths as laid out now (0 for hidden columns). */
     QVector<qreal> getActualColumnWidth() const;
     int rowHeight() const;
