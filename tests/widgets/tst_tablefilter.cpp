@@ -35,6 +35,8 @@ private Q_SLOTS:
     void each_kind_of_values_has_its_operators();
     void the_dialog_sends_the_typed_conditions_data();
     void the_dialog_sends_the_typed_conditions();
+    void dates_and_booleans_commit_their_operators_data();
+    void dates_and_booleans_commit_their_operators();
     void clear_and_cancel();
     void operator_names_follow_the_language_and_the_choice_stays();
     void menus_close_with_the_table_and_bad_columns_open_nothing();
@@ -316,6 +318,55 @@ void tst_TableFilter::the_dialog_sends_the_typed_conditions()
     QCOMPARE(sent.first().id, 13u);
     QCOMPARE(sent.first().text(), record);
     QVERIFY(t->header()->headerModel()->isColumnFiltered(column));
+}
+
+void tst_TableFilter::dates_and_booleans_commit_their_operators_data()
+{
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QString>("value1");
+    QTest::addColumn<int>("op1Index");
+    QTest::addColumn<QString>("value2");
+    QTest::addColumn<int>("op2Index");
+    QTest::addColumn<bool>("orJoin");
+    QTest::addColumn<QString>("record");
+    QTest::newRow("date-time range") << 2 << "2026-11-01 00:00:00" << 3 << "2026-11-02 00:00:00" << 0 << false
+                                     << QString("2|2026-11-01 00:00:00|%1|2026-11-02 00:00:00|%2|%3")
+                                            .arg(OPERATOR_MORE_EQUAL)
+                                            .arg(OPERATOR_LESS)
+                                            .arg(OPERATOR_LOGICAL_AND);
+    QTest::newRow("date-time before") << 2 << "2026-11-01 06:00:00" << 0 << "" << 2 << true
+                                      << QString("2|2026-11-01 06:00:00|%1||0|0").arg(OPERATOR_LESS);
+    QTest::newRow("boolean either") << 3 << "1" << 0 << "0" << 1 << true
+                                    << QString("3|1|%1|0|%2|%3")
+                                           .arg(OPERATOR_EQUAL)
+                                           .arg(OPERATOR_NOT_EQUAL)
+                                           .arg(OPERATOR_LOGICAL_OR);
+    QTest::newRow("text with quotes and multibyte") << 0 << QString::fromUtf8("a'b æ³µ") << 2 << "" << 0
+                                                    << false
+                                                    << QString::fromUtf8("0|a'b æ³µ|%1||0|0").arg(OPERATOR_LIKE);
+}
+
+void tst_TableFilter::dates_and_booleans_commit_their_operators()
+{
+    QFETCH(int, column);
+    QFETCH(QString, value1);
+    QFETCH(int, op1Index);
+    QFETCH(QString, value2);
+    QFETCH(int, op2Index);
+    QFETCH(bool, orJoin);
+    QFETCH(QString, record);
+    XTableViewControl* t = makeTable(17, true);
+    QVERIFY(t);
+    QVERIFY(t->openFilterDlg(column));
+    XTableFilterDlg* dlg = t->filterDialog();
+    dlg->setOperator1Index(op1Index);
+    dlg->setOperator2Index(op2Index);
+    dlg->setValue(0, value1);
+    dlg->setValue(1, value2);
+    dlg->setJoinOr(orJoin);
+    dlg->commit();
+    QVERIFY(!dlg->isOpened());
+    QCOMPARE(m_rec.eventsWithCode(EVT_LIST_FILTER).value(0).text(), record);
 }
 
 void tst_TableFilter::clear_and_cancel()
