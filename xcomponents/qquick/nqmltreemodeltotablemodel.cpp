@@ -17,7 +17,10 @@ void NQmlTreeModelToTableModel::setSourceModel(QAbstractItemModel* model)
     m_expanded.clear();
     if (model) {
         const auto reset = [this] {
+            // a new tree opens the nodes it marks, in the one flattening that follows
             m_expanded.clear();
+            if (m_expandRole >= 0)
+                collectMarked(m_expandRole);
             rebuild();
         };
         connect(model, &QAbstractItemModel::modelReset, this, reset);
@@ -34,6 +37,8 @@ void NQmlTreeModelToTableModel::setSourceModel(QAbstractItemModel* model)
                 else if (a >= 0 || b >= 0)
                     Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1), roles);
             });
+        if (m_expandRole >= 0)
+            collectMarked(m_expandRole);
     }
     rebuild();
     Q_EMIT sourceModelChanged();
@@ -191,6 +196,17 @@ void NQmlTreeModelToTableModel::expandMarked(int role)
 {
     if (!m_source)
         return;
+    collectMarked(role);
+    rebuild();
+}
+
+void NQmlTreeModelToTableModel::setExpandRole(int role)
+{
+    m_expandRole = role;
+}
+
+void NQmlTreeModelToTableModel::collectMarked(int role)
+{
     std::vector<QModelIndex> todo { QModelIndex() };
     while (!todo.empty()) {
         const QModelIndex parent = todo.back();
@@ -205,5 +221,4 @@ void NQmlTreeModelToTableModel::expandMarked(int role)
             todo.push_back(child);
         }
     }
-    rebuild();
 }

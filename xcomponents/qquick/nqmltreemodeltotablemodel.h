@@ -51,6 +51,8 @@ public:
     Q_INVOKABLE void toggleExpanded(int row);
     /** Expands every node whose source \a role is true and rebuilds the rows. */
     Q_INVOKABLE void expandMarked(int role);
+    /** Nodes whose \a role is true are expanded whenever the source is reset (-1: none). */
+    void setExpandRole(int role);
 
 Q_SIGNALS:
     void sourceModelChanged();
@@ -66,10 +68,13 @@ private:
     static Key keyOf(const QModelIndex& index) { return { index.internalId(), index.row() }; }
     std::vector<Row> visibleRows(const QModelIndex& parent, int depth) const;
     void rebuild();
+    /** Adds every node whose \a role is true to the expanded ones. */
+    void collectMarked(int role);
 
     QPointer<QAbstractItemModel> m_source;
     std::vector<Row> m_rows;
     QSet<Key> m_expanded;
+    int m_expandRole = -1;
 };
 
 #endif // NQMLTREEMODELTOTABLEMODEL_H

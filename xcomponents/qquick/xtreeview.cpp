@@ -100,9 +100,7 @@ void XTreeview::revealEntry(int index)
 
 void XTreeview::updateData(std::unique_ptr<TreeItem> root)
 {
-    m_model->updateData(std::move(root));
-    if (m_view)
-        m_view->proxy()->expandMarked(TreeModel::InitiallyExpandedRole);
+    m_model->updateData(std::move(root)); // the view's rows open the marked nodes on the reset
 }
 
 NQuickTreeView* XTreeview::treeView() const
@@ -117,8 +115,8 @@ void XTreeview::setTreeView(NQuickTreeView* view)
     m_view = view;
     if (view) {
         view->setRowHeight(m_rowSpace);
-        view->setSourceModel(m_model);
-        view->proxy()->expandMarked(TreeModel::InitiallyExpandedRole);
+        view->proxy()->setExpandRole(TreeModel::InitiallyExpandedRole);
+        view->setSourceModel(m_model); // the marked nodes open with the first rows
     }
     Q_EMIT treeViewChanged();
 }
