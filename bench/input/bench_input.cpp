@@ -7,12 +7,12 @@
 //    on screen in both);
 //  - creating 200 single-line fields against 200 QML TextInputs.
 #include "benchframe.h"
+#include "benchpanel.h"
 #include "benchreport.h"
 #include "common/panelfixture.h"
 
 #include "app/guiapplication.h"
 #include "app/xquickview.h"
-#include "config/qmltypes.h"
 #include "views/qmlwindowmanage.h"
 #include "views/viewmanage.h"
 #include "views/virtualkeyboardmanager.h"
@@ -22,7 +22,6 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QSignalSpy>
-#include <QSurfaceFormat>
 #include <QTest>
 
 #include <algorithm>
@@ -31,16 +30,12 @@
 
 int main(int argc, char** argv)
 {
-    QSurfaceFormat format = QSurfaceFormat::defaultFormat();
-    format.setSwapInterval(0); // frame times, not the display's refresh
-    QSurfaceFormat::setDefaultFormat(format);
+    Bench::noVsync(); // frame times, not the display's refresh
     GuiApplication app(argc, argv);
-    registerQmlTypes();
     PanelFixture panel;
-    if (!panel.start(QSize(1024, 600)))
-        return 1;
     const unsigned A = PanelFixture::wid(1, 1);
-    panel.switchWindow(A, Rect { 0, 0, 1024, 600 }, 0xFFFFFFFFu);
+    if (!Bench::openPanel(panel, QSize(1024, 600), A))
+        return 1;
     QQuickView* view = panel.view();
     QQuickItem* window = ViewManage::getInstance()->windowManage()->getWindow(A);
     QQmlEngine* engine = ViewManage::getInstance()->getQmlEngine();

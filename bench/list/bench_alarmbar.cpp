@@ -4,12 +4,12 @@
 // plain Qt Quick items (two copies of Rectangle + Text rows or cells, moved
 // the same way) in the same window and the same run.
 #include "benchframe.h"
+#include "benchpanel.h"
 #include "benchreport.h"
 #include "common/panelfixture.h"
 
 #include "app/guiapplication.h"
 #include "app/xquickview.h"
-#include "config/qmltypes.h"
 #include "views/qmlwindowmanage.h"
 #include "views/viewmanage.h"
 
@@ -18,7 +18,6 @@
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QQuickItem>
-#include <QSurfaceFormat>
 
 #include <string>
 #include <vector>
@@ -77,16 +76,12 @@ void plainStep(QQuickItem* band, bool vertical, qreal& pos)
 
 int main(int argc, char** argv)
 {
-    QSurfaceFormat format = QSurfaceFormat::defaultFormat();
-    format.setSwapInterval(0);
-    QSurfaceFormat::setDefaultFormat(format);
+    Bench::noVsync(); // frame times, not the display's refresh
     GuiApplication app(argc, argv);
-    registerQmlTypes();
     PanelFixture panel;
-    if (!panel.start(QSize(1024, 600)))
-        return 1;
     const unsigned A = PanelFixture::wid(1, 1);
-    panel.switchWindow(A, Rect { 0, 0, 1024, 600 }, 0xFFFFFFFFu);
+    if (!Bench::openPanel(panel, QSize(1024, 600), A))
+        return 1;
     QQuickView* view = panel.view();
     QQuickItem* window = ViewManage::getInstance()->windowManage()->getWindow(A);
     QQmlEngine* engine = ViewManage::getInstance()->getQmlEngine();

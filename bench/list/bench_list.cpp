@@ -11,12 +11,12 @@
 //  - the heap per held cell of a 1,000 x 8 page, in the cell model alone,
 //    against the plain model holding the same strings.
 #include "benchframe.h"
+#include "benchpanel.h"
 #include "benchreport.h"
 #include "common/panelfixture.h"
 
 #include "app/guiapplication.h"
 #include "app/xquickview.h"
-#include "config/qmltypes.h"
 #include "views/qmlwindowmanage.h"
 #include "views/viewmanage.h"
 #include "xcomponents/qquick/xcommontableview.h"
@@ -30,7 +30,6 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QSignalSpy>
-#include <QSurfaceFormat>
 
 #include <malloc.h>
 
@@ -80,16 +79,12 @@ std::vector<std::string> texts(int rows, int round)
 
 int main(int argc, char** argv)
 {
-    QSurfaceFormat format = QSurfaceFormat::defaultFormat();
-    format.setSwapInterval(0);
-    QSurfaceFormat::setDefaultFormat(format);
+    Bench::noVsync(); // frame times, not the display's refresh
     GuiApplication app(argc, argv);
-    registerQmlTypes();
     PanelFixture panel;
-    if (!panel.start(QSize(1024, 600)))
-        return 1;
     const unsigned A = PanelFixture::wid(1, 1);
-    panel.switchWindow(A, Rect { 0, 0, 1024, 600 }, 0xFFFFFFFFu);
+    if (!Bench::openPanel(panel, QSize(1024, 600), A))
+        return 1;
     QQuickView* view = panel.view();
     QQuickItem* window = ViewManage::getInstance()->windowManage()->getWindow(A);
     QQmlEngine* engine = ViewManage::getInstance()->getQmlEngine();

@@ -5,11 +5,11 @@
 //    the current index of 100 ComboBoxes;
 //  - a tree content of 10,000 nodes (100 groups of 99 entries) replaced with
 //    View_ChangeMenuTreeContent, against filling a QStandardItemModel.
+#include "benchpanel.h"
 #include "benchreport.h"
 #include "common/panelfixture.h"
 
 #include "app/guiapplication.h"
-#include "config/qmltypes.h"
 #include "views/qmlwindowmanage.h"
 #include "views/viewmanage.h"
 
@@ -26,12 +26,10 @@
 int main(int argc, char** argv)
 {
     GuiApplication app(argc, argv);
-    registerQmlTypes();
     PanelFixture panel;
-    if (!panel.start(QSize(1024, 600)))
-        return 1;
     const unsigned A = PanelFixture::wid(1, 1);
-    panel.switchWindow(A, Rect { 0, 0, 1024, 600 }, 0xFFFFFFFFu);
+    if (!Bench::openPanel(panel, QSize(1024, 600), A))
+        return 1;
     QQuickItem* window = ViewManage::getInstance()->windowManage()->getWindow(A);
     QQmlEngine* engine = ViewManage::getInstance()->getQmlEngine();
 

@@ -4,13 +4,13 @@
 //  - switching to a window of 200 widgets and back (close, switch, re-parent
 //    the cached widgets, one frame), against raw re-parenting of 200 items;
 //  - memory per registered widget, against a plain item.
+#include "benchpanel.h"
 #include "benchreport.h"
 #include "common/panelfixture.h"
 #include "common/testutil.h"
 
 #include "app/guiapplication.h"
 #include "app/xquickview.h"
-#include "config/qmltypes.h"
 #include "platform/nlogger.h"
 #include "views/qmlwindowmanage.h"
 #include "views/viewmanage.h"
@@ -52,12 +52,10 @@ int create(unsigned id, unsigned windowId, int i)
 int main(int argc, char** argv)
 {
     GuiApplication app(argc, argv);
-    registerQmlTypes();
     PanelFixture panel;
-    if (!panel.start(QSize(800, 480)))
-        return 1;
     const unsigned A = PanelFixture::wid(1, 1), B = PanelFixture::wid(1, 2);
-    panel.switchWindow(A, Rect { 0, 0, 800, 480 });
+    if (!Bench::openPanel(panel, QSize(800, 480), A, 0xFFE0E0E0u))
+        return 1;
     QQuickItem* contentA = ViewManage::getInstance()->windowManage()->getWindow(A);
 
     // 1. creation of 1,000 widgets

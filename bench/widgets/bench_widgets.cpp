@@ -7,12 +7,12 @@
 //    plain Text items;
 //  - View_UpdateQRCodeContent of a 100-character text, against the bare
 //    encoding plus the SVG document and its rendering at the widget's size.
+#include "benchpanel.h"
 #include "benchreport.h"
 #include "common/panelfixture.h"
 
 #include "app/guiapplication.h"
 #include "app/xquickview.h"
-#include "config/qmltypes.h"
 #include "views/qmlwindowmanage.h"
 #include "views/viewmanage.h"
 #include "xcomponents/qquick/xqrcode.h"
@@ -23,7 +23,6 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QSignalSpy>
-#include <QSurfaceFormat>
 #include <QSvgRenderer>
 
 #include <qrcodegen.hpp>
@@ -73,16 +72,12 @@ std::string plainSvg(const qrcodegen::QrCode& qr)
 
 int main(int argc, char** argv)
 {
-    QSurfaceFormat format = QSurfaceFormat::defaultFormat();
-    format.setSwapInterval(0); // frame times, not the display's refresh
-    QSurfaceFormat::setDefaultFormat(format);
+    Bench::noVsync(); // frame times, not the display's refresh
     GuiApplication app(argc, argv);
-    registerQmlTypes();
     PanelFixture panel;
-    if (!panel.start(QSize(800, 480)))
-        return 1;
     const unsigned A = PanelFixture::wid(1, 1);
-    panel.switchWindow(A, Rect { 0, 0, 800, 480 }, 0xFFFFFFFFu);
+    if (!Bench::openPanel(panel, QSize(800, 480), A))
+        return 1;
     QQuickItem* window = ViewManage::getInstance()->windowManage()->getWindow(A);
     QQmlEngine* engine = ViewManage::getInstance()->getQmlEngine();
     const Font font { nullptr, 8, 400, 0, 0, 0, 0, 0xFF202020u, QGUI_ALIGN_LEFT };
