@@ -13,9 +13,10 @@ int ViewManage::View_CreateGroupBar()
     return -1;
 }
 
-int ViewManage::View_CreateGroupIOList(const View_GroupIOList*, unsigned int)
+// An IO list is not a table: it is made exactly as a widget group from its group part.
+int ViewManage::View_CreateGroupIOList(const View_GroupIOList* rec, unsigned int windowId)
 {
-    return -1;
+    return View_CreateGroup(rec ? &rec->group : nullptr, windowId);
 }
 
 int ViewManage::View_CreatePieChart(const View_PieChart* rec, unsigned int windowId)

@@ -157,6 +157,8 @@ std::unique_ptr<TreeItem> buildTree(const View_TreeNode* root)
             item->setData(0, Qt::DecorationRole, icon.toString());
         item->setData(0, TreeModel::EntryIndexRole, child->index);
         item->setData(0, TreeModel::InitiallyExpandedRole, child->expanded != 0);
+        if (!child->children || !child->childCount)
+            continue; // a leaf: nothing below it to walk, and never anyone's ancestor
         onPath.insert(child);
         stack.push_back({ child, item, 0 }); // f is not used after this
     }

@@ -43,14 +43,25 @@ QVariant TreeItem::data(int column, int role) const
 {
     if (column < 0 || column >= m_data.size())
         return QVariant();
-    return m_data[column].value(role);
+    for (const auto& entry : m_data[column]) {
+        if (entry.first == role)
+            return entry.second;
+    }
+    return QVariant();
 }
 
 bool TreeItem::setData(int column, int role, const QVariant& value)
 {
     if (column < 0 || column >= m_data.size())
         return false;
-    m_data[column].insert(role, value);
+    Roles& roles = m_data[column];
+    for (auto& entry : roles) {
+        if (entry.first == role) {
+            entry.second = value;
+            return true;
+        }
+    }
+    roles.append(qMakePair(role, value));
     return true;
 }
 
@@ -85,7 +96,7 @@ bool TreeItem::insertColumns(int position, int columns)
     while (!todo.empty()) {
         TreeItem* node = todo.back();
         todo.pop_back();
-        node->m_data.insert(position, columns, QHash<int, QVariant>());
+        node->m_data.insert(position, columns, Roles());
         todo.insert(todo.end(), node->m_children.begin(), node->m_children.end());
     }
     return true;

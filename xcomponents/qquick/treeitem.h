@@ -1,7 +1,6 @@
 #ifndef TREEITEM_H
 #define TREEITEM_H
 
-#include <QHash>
 #include <QVariant>
 #include <QVector>
 
@@ -9,7 +8,8 @@
 
 /**
  * One node of a tree content (TreeModel): a parent, ordered children and, per
- * column, a map from role to value. A node owns its children. Destruction
+ * column, a short flat list of role/value pairs (a node holds three or four
+ * roles, where a hash would cost an allocation per role). A node owns its children. Destruction
  * walks the subtree with an explicit stack, so a chain of any depth is freed
  * without deep recursion.
  */
@@ -47,7 +47,8 @@ private:
 
     TreeItem* m_parent;
     std::vector<TreeItem*> m_children; // owned
-    QVector<QHash<int, QVariant>> m_data;
+    using Roles = QVector<QPair<int, QVariant>>;
+    QVector<Roles> m_data;
 };
 
 #endif // TREEITEM_H
