@@ -46,6 +46,8 @@
 #include "xcomponents/qquick/xtextedit.h"
 #include "xcomponents/qquick/xtreeview.h"
 #include "xcomponents/qquick/xtreeviewcontrol.h"
+#include "xcomponents/qquick/curvemousearea.h"
+#include "xcomponents/qquick/curvesamplechart.h"
 #include "xcomponents/qquick/xtumblertimemodel.h"
 #include "xcomponents/qquick/xwindow.h"
 
@@ -125,4 +127,7 @@ void registerQmlTypes()
     qmlRegisterType<TreeModel>(uri, 1, 0, "TreeModel");
     qmlRegisterType<XTreeViewControl>(uri, 1, 0, "XTreeViewControl");
     qmlRegisterType<NQuickTreeView>(uri, 1, 0, "NQuickTreeView");
+    // Charts
+    qmlRegisterType<CurveSampleChart>(uri, 1, 0, "CurveSampleChart");
+    qmlRegisterType<CurveMouseArea>(uri, 1, 0, "CurveMouseArea");
 }

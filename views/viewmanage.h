@@ -22,6 +22,7 @@ class WidgetPropertyManage;
 class QmlWindowManage;
 class XQmlComponentManage;
 class CurveSampleChartTimeModeController;
+class CurveSampleChart;
 class VkbState;
 class ListState;
 class PinyinState;
@@ -364,6 +365,10 @@ private:
     }
     int createPlaceholder(
         unsigned header, const Rect& rect, unsigned id, unsigned windowId, const char* name);
+    /** The sample curve chart of \a id; null for an unknown id or another kind. */
+    CurveSampleChart* curveSampleChart(unsigned int id) const;
+    /** View_CurveHideChannel on an item that is not a sample chart: an XY curve hides its curve. */
+    int hideXyCurve(QQuickItem* item, unsigned int channel, bool hide);
 
     // members in order of construction
     std::unique_ptr<LifeCycleManager> m_lifeCycle;

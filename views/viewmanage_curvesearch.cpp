@@ -1,19 +1,34 @@
-// History search of the sample curve charts: not built yet. Every call is accepted and changes nothing: the
-// creators create nothing and return -1 (as for an unknown window); the other
-// calls return what they return for an unknown id.
+// History search of the sample curve charts: the state changes a logic layer
+// asks for. The states and their transitions are described with
+// CurveSampleChartTimeModeController.
 #include "views/viewmanage.h"
 
-int ViewManage::View_CurveSampleResumeRealMode(unsigned int)
+#include "views/curvesamplecharttimemodecontroller.h"
+#include "xcomponents/qquick/curvesamplechart.h"
+
+int ViewManage::View_CurveSampleResumeRealMode(unsigned int id)
 {
-    return -1;
+    CurveSampleChart* chart = curveSampleChart(id);
+    if (!chart)
+        return -1;
+    m_timeMode->resumeRealMode(chart);
+    return 0;
 }
 
-int ViewManage::View_CurveSampleSetSearchMode(unsigned int, bool)
+int ViewManage::View_CurveSampleSetSearchMode(unsigned int id, bool on)
 {
-    return -1;
+    CurveSampleChart* chart = curveSampleChart(id);
+    if (!chart)
+        return -1;
+    m_timeMode->setSearchMode(chart, on);
+    return 0;
 }
 
-int ViewManage::View_RestoreCurveSampleSearchState(unsigned int)
+int ViewManage::View_RestoreCurveSampleSearchState(unsigned int id)
 {
-    return -1;
+    CurveSampleChart* chart = curveSampleChart(id);
+    if (!chart)
+        return -1;
+    m_timeMode->restoreSearchState(chart);
+    return 0;
 }

@@ -33,3 +33,8 @@ int ViewManage::View_CurveXyUpdateYLabel(unsigned int, const std::vector<std::st
 {
     return 0;
 }
+
+int ViewManage::hideXyCurve(QQuickItem*, unsigned int, bool)
+{
+    return 0; // an unknown id or another kind ends the call
+}

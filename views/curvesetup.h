@@ -1,0 +1,31 @@
+#ifndef CURVESETUP_H
+#define CURVESETUP_H
+
+#include "xcomponents/qquick/curveplotstyle.h"
+
+#include <qgui/records_curve.h>
+
+/**
+ * The conversions of the chart records into what the chart items are set up
+ * with: axis and channel looks, interactions and the time label format.
+ */
+namespace CurveSetup {
+
+/** Most channels taken from a record; more are dropped. */
+constexpr U32 kMaxChannels = 64;
+/** Most points of a channel's own scatter polygon. */
+constexpr U32 kMaxScatterPath = 1024;
+
+CurveAxisStyle toAxisStyle(const View_CurveAxis& axis);
+/** A channel's look; unknown line styles draw plain lines, unknown scatter shapes no marks. */
+CurveChannelStyle toChannelStyle(const View_CurveChannel& channel);
+/** QCP::Interaction bits of CurveInteraction bits (drags and zooms on either axis). */
+int toInteractions(U32 bits);
+/** Orientations dragged (\a zoom false) or zoomed (\a zoom true) by CurveInteraction bits. */
+Qt::Orientations toOrientations(U32 bits, bool zoom);
+/** The QDateTime format of a clock format; "" when it leaves the form to the tick step. */
+QString toDateTimeFormat(const ClockFormat& clock);
+
+} // namespace CurveSetup
+
+#endif // CURVESETUP_H
