@@ -97,7 +97,9 @@ QVector<double> CustomXAxisTickerTime::createTickVector(double tickStep, const Q
     // whole steps of local time: shift by the local offset from UTC at the range's start
     const QDateTime at = keyToDateTime(range.lower);
     const double local = at.isValid() ? at.offsetFromUtc() : 0;
-    const double first = std::ceil((m_startOffset + range.lower + local) / tickStep) * tickStep;
+    // weeks start on Mondays (1970-01-01 was a Thursday: four days later)
+    const double shift = tickStep == 7 * kDay ? 4 * kDay : 0;
+    const double first = std::ceil((m_startOffset + range.lower + local - shift) / tickStep) * tickStep + shift;
     for (int i = 0; i < kMaxTicks; ++i) {
         const double key = first + i * tickStep - local - m_startOffset;
         if (key > range.upper)
