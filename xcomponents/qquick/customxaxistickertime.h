@@ -9,8 +9,8 @@
  * step is picked from clock-friendly steps (1, 2, 5, 10, 15, 30 s; 1, 2, 5,
  * 10, 15, 30 min; 1, 2, 3, 6, 12 h; 1, 2, 7 days; 1, 3 months; whole years)
  * as the smallest that gives no more than the wanted tick count, and ticks
- * sit on whole steps of local time (minutes on :00, days at midnight, months
- * on the 1st). Labels use the clock format when one is set, otherwise a form
+ * sit on whole steps of local time (minutes on :00, days at midnight, weeks
+ * on Mondays, months on the 1st). Labels use the clock format when one is set, otherwise a form
  * that fits the step: "hh:mm:ss.zzz" below a second, "hh:mm:ss" below a
  * minute, "hh:mm" below a day (with "MM-dd" above it when the range crosses
  * midnight), "MM-dd" below a month, "yyyy-MM" below a year, "yyyy".
