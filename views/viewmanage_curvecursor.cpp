@@ -1,11 +1,18 @@
-// The cursor of the curve charts: not built yet. Every call is accepted and changes nothing: the
-// creators create nothing and return -1 (as for an unknown window); the other
-// calls return what they return for an unknown id.
+// The cursor of the sample curve charts: the cursor line is built (a tap on the
+// plot moves it to the nearest sample, and the release reports where it stands);
+// the cursor window's calls are not built yet and return what they return for an
+// unknown id.
 #include "views/viewmanage.h"
 
-int ViewManage::View_CurveEnableCursor(unsigned int, bool)
+#include "xcomponents/qquick/curvesamplechart.h"
+
+int ViewManage::View_CurveEnableCursor(unsigned int id, bool enable)
 {
-    return -1;
+    CurveSampleChart* chart = curveSampleChart(id);
+    if (!chart)
+        return -1;
+    chart->setCursorEnabled(enable);
+    return 0;
 }
 
 int ViewManage::View_CurveSampleShowCursor(

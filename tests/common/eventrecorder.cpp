@@ -88,6 +88,11 @@ ErrRet EventRecorder::callBack(unsigned id, int code, void* data)
         e.payload = QByteArray::number(f->column) + '|' + QByteArray(f->value1 ? f->value1 : "(null)") + '|'
             + QByteArray::number(f->operator1) + '|' + QByteArray(f->value2 ? f->value2 : "(null)") + '|'
             + QByteArray::number(f->operator2) + '|' + QByteArray::number(f->join);
+    } else if (data && code == 1540) {
+        // a chart's search state: "state|source|start|end"
+        const auto* s = static_cast<const View_EvtCurveSearch*>(data);
+        e.payload = QByteArray::number(s->state) + '|' + QByteArray::number(s->source) + '|'
+            + QByteArray(s->start ? s->start : "(null)") + '|' + QByteArray(s->end ? s->end : "(null)");
     } else if (data && code == 520) {
         // a table's pending edits: "row,column=text" lines in the order sent
         for (const View_ListEditItem& edit : *static_cast<const View_EvtListEdits*>(data))

@@ -96,6 +96,15 @@ void CurveMouseArea::mouseDoubleClickEvent(QMouseEvent* event)
     m_chart->doubleClickAt(&e);
 }
 
+void CurveMouseArea::wheelEvent(QWheelEvent* event)
+{
+    event->accept();
+    if (!m_chart)
+        return;
+    const QPointF at = mapToItem(m_chart, event->position());
+    m_chart->routeWheelEvents(at, event->angleDelta().y());
+}
+
 void CurveMouseArea::touchEvent(QTouchEvent* event)
 {
     event->accept();

@@ -63,6 +63,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void touchEvent(QTouchEvent* event) override;
+    /** The wheel zooms the plot at the pointer. */
+    void wheelEvent(QWheelEvent* event) override;
 
 private:
     /** \a event moved into the chart's coordinates. */

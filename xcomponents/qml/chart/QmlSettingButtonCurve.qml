@@ -12,8 +12,12 @@ Item {
     signal settingClicked()
     signal restoreClicked()
 
-    width: row.width
-    height: row.height
+    // sizes and places known without waiting for the row's layout
+    readonly property int buttonSize: 32
+    readonly property int restoreX: 0
+    readonly property int settingX: restoreShown ? buttonSize + row.spacing : 0
+    width: (restoreShown ? buttonSize + row.spacing : 0) + (settingShown ? buttonSize : 0)
+    height: buttonSize
     visible: settingShown || restoreShown
     // a drag sets x and y, which ends these bindings: the row stays where it was put
     x: area.x + area.width - width - 8
@@ -28,8 +32,8 @@ Item {
             objectName: "restoreBtn"
             signal qmlclicked()
             source: "qrc:/curverestore.png"
-            width: 32
-            height: 32
+            width: group.buttonSize
+            height: group.buttonSize
             visible: group.restoreShown
             enabled: group.restoreShown
         }
@@ -38,8 +42,8 @@ Item {
             objectName: "settingBtn"
             signal qmlclicked()
             source: "qrc:/curvesetting.png"
-            width: 32
-            height: 32
+            width: group.buttonSize
+            height: group.buttonSize
             visible: group.settingShown
         }
     }
@@ -55,12 +59,12 @@ Item {
         onClicked: {
             if (drag.active)
                 return
-            if (restoreBtn.visible && restoreBtn.enabled && mouse.x >= restoreBtn.x
-                    && mouse.x < restoreBtn.x + restoreBtn.width && group.y < restoreBtn.y + restoreBtn.height) {
+            if (group.restoreShown && mouse.x >= group.restoreX && mouse.x < group.restoreX + group.buttonSize
+                    && group.y < group.buttonSize) {
                 restoreBtn.qmlclicked()
                 group.restoreClicked()
-            } else if (settingBtn.visible && mouse.x >= settingBtn.x && mouse.x < settingBtn.x + settingBtn.width
-                       && group.y < settingBtn.y + settingBtn.height) {
+            } else if (group.settingShown && mouse.x >= group.settingX && mouse.x < group.settingX + group.buttonSize
+                       && group.y < group.buttonSize) {
                 settingBtn.qmlclicked()
                 group.settingClicked()
             }

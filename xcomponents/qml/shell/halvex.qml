@@ -51,10 +51,16 @@ GuiShell {
         }
     }
 
+    // the wheel scrolls a panel taller than the window; otherwise it goes on to the
+    // widget under the pointer (a chart zooms)
     MouseArea {
         anchors.fill: parent
         acceptedButtons: Qt.MiddleButton
         onWheel: {
+            if (flick.contentHeight <= flick.height) {
+                wheel.accepted = false
+                return
+            }
             var maxY = Math.max(0, flick.contentHeight - flick.height)
             flick.contentY = Math.min(maxY, Math.max(0, flick.contentY - wheel.angleDelta.y / 5))
         }
