@@ -525,6 +525,15 @@ XPopup* QmlWindowManage::popupDateTimeWindow(QQuickItem* widget, const QString& 
             m_dateTime.clear();
         popup->deleteLater();
     });
+    // a field that goes out of sight (its window closed or switched away, the field hidden or
+    // deleted) takes its popup with it
+    auto closeIfGone = [popup, widget = QPointer<QQuickItem>(widget)]() {
+        if (!widget || !widget->isVisible() || !widget->window())
+            popup->close();
+    };
+    connect(widget, &QQuickItem::visibleChanged, popup, closeIfGone);
+    connect(widget, &QQuickItem::windowChanged, popup, closeIfGone);
+    connect(widget, &QObject::destroyed, popup, &XPopup::close);
     m_dateTime = popup;
     popup->open();
     return popup;

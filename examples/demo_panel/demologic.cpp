@@ -5,6 +5,7 @@
 #include "entryscreen.h"
 #include "recipescreen.h"
 #include "menuscreen.h"
+#include "trendscreen.h"
 
 #include <csignal>
 #include <cstdio>
@@ -30,6 +31,10 @@ const int kEntryFrom = 122, kEntryEvery = 5; // its script: one step every half 
 int g_entryStep = 0;
 bool g_entryDone = false;
 const unsigned kRecipes = (kDesk << 16) | 5; // the recipe screen (recipescreen.cpp)
+const unsigned kTrend = (kDesk << 16) | 6; // the trend screen (trendscreen.cpp)
+const int kTrendFrom = 240; // its script: a step every 300 ms from 24 s
+int g_trendStep = 0;
+bool g_trendDone = false;
 int g_recipeStep = 0;
 bool g_recipeDone = false;
 unsigned g_current = 0;
@@ -257,6 +262,8 @@ void showWindow(unsigned windowId)
         EntryScreen::build(kEntry);
     if (windowId == kRecipes)
         RecipeScreen::build(kRecipes);
+    if (windowId == kTrend)
+        TrendScreen::build(kTrend);
     if (windowId == kWindow1)
         buildWindow1();
     if (windowId == kWindow2) {
@@ -349,7 +356,8 @@ ErrRet onEvent(unsigned id, int code, void* data)
     }
     std::printf("\n");
     std::fflush(stdout);
-    if (EntryScreen::onEvent(id, code, data) || RecipeScreen::onEvent(id, code, data))
+    if (EntryScreen::onEvent(id, code, data) || RecipeScreen::onEvent(id, code, data)
+        || TrendScreen::onEvent(id, code, data))
         return 0;
     if (MenuScreen::onEvent(id, code, data))
         return 0;
@@ -408,6 +416,9 @@ void every10ms()
 void every100ms(int)
 {
     ++g_ticks100;
+    if (g_ticks100 == 1)
+        TrendScreen::start();
+    TrendScreen::sample(); // the history grows from the start, the chart shows it once built
     // the demo's script, one step every half second or so
     switch (g_ticks100) {
     case 10:
@@ -480,8 +491,12 @@ void every100ms(int)
             showWindow(kEntry);
         if (!g_entryDone && g_ticks100 >= kEntryFrom && (g_ticks100 - kEntryFrom) % kEntryEvery == 0)
             g_entryDone = !EntryScreen::scriptStep(g_entryStep++, screenshot);
-        if (g_entryDone && g_ticks100 % 30 == 0)
+        if (g_entryDone && g_ticks100 % 30 == 0 && g_ticks100 < kTrendFrom - 10)
             showWindow(g_current == kWindow1 ? kWindow2 : kWindow1);
+        if (g_ticks100 == kTrendFrom - 5)
+            showWindow(kTrend);
+        if (!g_trendDone && g_ticks100 >= kTrendFrom && (g_ticks100 - kTrendFrom) % 3 == 0)
+            g_trendDone = !TrendScreen::scriptStep(g_trendStep++, screenshot);
         break;
     }
     if (g_settings.quitAfterMs > 0 && g_ticks100 * 100 >= g_settings.quitAfterMs)

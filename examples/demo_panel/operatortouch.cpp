@@ -57,19 +57,43 @@ bool touchItem(const char* objectName)
     return true;
 }
 
+static QQuickItem* widget(QQuickWindow* window, unsigned widgetId)
+{
+    return window ? findVisible(window->contentItem(), QString(),
+               [](QQuickItem* i, const void* k) {
+                   const QVariant id = i->property("widgetId");
+                   return id.isValid() && id.toUInt() == *static_cast<const unsigned*>(k);
+               },
+               &widgetId)
+                  : nullptr;
+}
+
 bool touchWidget(unsigned widgetId, double x, double y)
 {
     QQuickWindow* window = panelWindow();
-    QQuickItem* item = window ? findVisible(window->contentItem(), QString(),
-                           [](QQuickItem* i, const void* k) {
-                               const QVariant id = i->property("widgetId");
-                               return id.isValid() && id.toUInt() == *static_cast<const unsigned*>(k);
-                           },
-                           &widgetId)
-                              : nullptr;
+    QQuickItem* item = widget(window, widgetId);
     if (!item)
         return false;
     touchAt(window, item->mapToScene(QPointF(x, y)));
+    return true;
+}
+
+bool dragWidget(unsigned widgetId, double x0, double y0, double x1, double y1)
+{
+    QQuickWindow* window = panelWindow();
+    QQuickItem* item = widget(window, widgetId);
+    if (!item)
+        return false;
+    const QPointF from = item->mapToScene(QPointF(x0, y0));
+    const QPointF to = item->mapToScene(QPointF(x1, y1));
+    auto send = [window](QEvent::Type type, const QPointF& at, Qt::MouseButton button, Qt::MouseButtons buttons) {
+        QMouseEvent event(type, at, at, window->mapToGlobal(at.toPoint()), button, buttons, Qt::NoModifier);
+        QCoreApplication::sendEvent(window, &event);
+    };
+    send(QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+    for (int step = 1; step <= 10; ++step)
+        send(QEvent::MouseMove, from + (to - from) * step / 10.0, Qt::NoButton, Qt::LeftButton);
+    send(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
     return true;
 }
 

@@ -13,6 +13,8 @@ namespace OperatorTouch {
 bool touchItem(const char* objectName);
 /** Touches the point (\a x, \a y) of widget \a widgetId (widget coordinates); false without it. */
 bool touchWidget(unsigned widgetId, double x, double y);
+/** Drags a finger across widget \a widgetId from (\a x0, \a y0) to (\a x1, \a y1) in ten steps. */
+bool dragWidget(unsigned widgetId, double x0, double y0, double x1, double y1);
 
 } // namespace OperatorTouch
 

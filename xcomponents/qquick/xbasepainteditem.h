@@ -14,6 +14,7 @@
  */
 class XBasePaintedItem : public QQuickPaintedItem {
     Q_OBJECT
+    Q_PROPERTY(quint32 widgetId READ getId WRITE setId NOTIFY widgetIdChanged)
 
 public:
     /** Longest texture side (device pixels) while the item is in no window. */
@@ -23,7 +24,13 @@ public:
     ~XBasePaintedItem() override;
 
     Q_INVOKABLE quint32 getId() const { return m_id; }
-    Q_INVOKABLE void setId(quint32 id) { m_id = id; }
+    Q_INVOKABLE void setId(quint32 id)
+    {
+        if (m_id == id)
+            return;
+        m_id = id;
+        Q_EMIT widgetIdChanged();
+    }
     Q_INVOKABLE quint32 getWindowId() const { return m_windowId; }
     Q_INVOKABLE void setWindowId(quint32 id) { m_windowId = id; }
     Q_INVOKABLE virtual void moveTo(int x, int y) { setPosition(QPointF(x, y)); }
@@ -31,6 +38,9 @@ public:
     /** The texture size for an item of \a size (item pixels) at \a dpr in a window of \a window
      *  (empty: none): the device-pixel size, each side capped as described above, at least 1. */
     static QSize cappedTextureSize(const QSizeF& size, qreal dpr, const QSize& window);
+
+Q_SIGNALS:
+    void widgetIdChanged();
 
 protected:
     /* inherits documentation from base class */
