@@ -48,6 +48,8 @@
 #include "xcomponents/qquick/xtreeviewcontrol.h"
 #include "xcomponents/qquick/curvemousearea.h"
 #include "xcomponents/qquick/curvesamplechart.h"
+#include "xcomponents/qquick/xycurvechart.h"
+#include "xcomponents/qquick/xymousearea.h"
 #include "xcomponents/qquick/xtumblertimemodel.h"
 #include "xcomponents/qquick/xwindow.h"
 
@@ -130,4 +132,6 @@ void registerQmlTypes()
     // Charts
     qmlRegisterType<CurveSampleChart>(uri, 1, 0, "CurveSampleChart");
     qmlRegisterType<CurveMouseArea>(uri, 1, 0, "CurveMouseArea");
+    qmlRegisterType<XYCurveChart>(uri, 1, 0, "XYCurveChart");
+    qmlRegisterType<XYMouseArea>(uri, 1, 0, "XYMouseArea");
 }

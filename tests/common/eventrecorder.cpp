@@ -54,6 +54,7 @@ int EventRecorder::payloadSize(int code)
     case 1281:
     case 2306:
         return -1;
+    case 1541:
     case 1542:
     case 1544:
         return sizeof(int);
@@ -93,6 +94,11 @@ ErrRet EventRecorder::callBack(unsigned id, int code, void* data)
         const auto* s = static_cast<const View_EvtCurveSearch*>(data);
         e.payload = QByteArray::number(s->state) + '|' + QByteArray::number(s->source) + '|'
             + QByteArray(s->start ? s->start : "(null)") + '|' + QByteArray(s->end ? s->end : "(null)");
+    } else if (data && code == 1543) {
+        // an XY zoom rectangle: "left|right|top|bottom"
+        const auto* r = static_cast<const View_EvtXyRect*>(data);
+        e.payload = QByteArray::number(r->left, 'g', 10) + '|' + QByteArray::number(r->right, 'g', 10) + '|'
+            + QByteArray::number(r->top, 'g', 10) + '|' + QByteArray::number(r->bottom, 'g', 10);
     } else if (data && code == 520) {
         // a table's pending edits: "row,column=text" lines in the order sent
         for (const View_ListEditItem& edit : *static_cast<const View_EvtListEdits*>(data))

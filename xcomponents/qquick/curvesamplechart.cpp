@@ -57,15 +57,6 @@ void CurveSampleChart::setXAxisMode(int mode, int subTicks, const QString& clock
     }
     connect(x, QOverload<const QCPRange&>::of(&QCPAxis::rangeChanged), this, &CurveSampleChart::onXRangeChanged,
         Qt::UniqueConnection);
-    connect(customPlot(), &QCustomPlot::afterReplot, this,
-        [this] {
-            const QRect area = plotArea();
-            if (area != m_lastPlotArea) {
-                m_lastPlotArea = area;
-                Q_EMIT plotAreaChanged();
-            }
-        },
-        Qt::UniqueConnection);
 }
 
 BaseCustomAxisTicker* CurveSampleChart::xTicker() const
@@ -474,12 +465,6 @@ void CurveSampleChart::setZoomed(bool zoomed)
     m_zoomed = zoomed;
     if (m_restoreBtn)
         Q_EMIT buttonsChanged();
-}
-
-QRect CurveSampleChart::plotArea() const
-{
-    const XCPAxisRect* rect = axisRect();
-    return rect ? rect->rect().translated(orgPosition()) : QRect();
 }
 
 void CurveSampleChart::pressAt(QMouseEvent* event)

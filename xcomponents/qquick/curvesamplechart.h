@@ -40,7 +40,6 @@ class CurveSampleChart : public CustomPlotItem {
     Q_PROPERTY(double xScale READ xScale NOTIFY xScaleChanged)
     Q_PROPERTY(bool settingBtnVisible READ useSettingBtn NOTIFY buttonsChanged)
     Q_PROPERTY(bool restoreBtnVisible READ restoreBtnShown NOTIFY buttonsChanged)
-    Q_PROPERTY(QRect plotArea READ plotArea NOTIFY plotAreaChanged)
 
 public:
     enum XAxisMode { SampleAxis = 0, SampleLabelAxis = 1, TimeAxis = 2 };
@@ -144,8 +143,6 @@ public:
     void setRestoreBtnVisible(bool on);
     /** True while the restore button is shown. */
     bool restoreBtnShown() const { return m_restoreBtn && m_zoomed; }
-    /** The plot area (axis rectangle) in item coordinates. */
-    QRect plotArea() const;
 
     /** Press on the plot area at \a pos (item coordinates): the plot is told, event 2 goes out. */
     void pressAt(QMouseEvent* event);
@@ -164,7 +161,6 @@ Q_SIGNALS:
     void realTimeChanged();
     void xScaleChanged();
     void buttonsChanged();
-    void plotAreaChanged();
     /** The setting button was clicked. */
     void settingRequested();
     /** A double click asked for real-time mode again. */
@@ -196,7 +192,6 @@ private:
     bool m_restoreBtn = false;
     bool m_zoomed = false;
     QPointF m_pressPos;
-    QRect m_lastPlotArea;
 };
 
 #endif // CURVESAMPLECHART_H

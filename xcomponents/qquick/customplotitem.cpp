@@ -23,7 +23,14 @@ void CustomPlotItem::initCustomPlot(int flags)
         return;
     m_plot = std::make_unique<XCustomPlot>();
     m_plot->setInteractions(QCP::Interactions(flags));
-    connect(m_plot.get(), &QCustomPlot::afterReplot, this, [this] { update(); });
+    connect(m_plot.get(), &QCustomPlot::afterReplot, this, [this] {
+        update();
+        const QRect area = plotArea();
+        if (area != m_lastPlotArea) {
+            m_lastPlotArea = area;
+            Q_EMIT plotAreaChanged();
+        }
+    });
     updateCustomPlotSize();
 }
 
@@ -60,6 +67,11 @@ void CustomPlotItem::setPlotBrush(const QBrush& brush)
 {
     if (m_plot)
         m_plot->chartRect()->setBackground(brush);
+}
+
+QRect CustomPlotItem::plotArea() const
+{
+    return m_plot ? m_plot->chartRect()->rect().translated(m_origin) : QRect();
 }
 
 void CustomPlotItem::setViewPlotWidth(int width)

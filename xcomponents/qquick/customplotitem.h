@@ -30,6 +30,7 @@ class XCPAxis;
  */
 class CustomPlotItem : public XBasePaintedItem {
     Q_OBJECT
+    Q_PROPERTY(QRect plotArea READ plotArea NOTIFY plotAreaChanged)
 
 public:
     /** Longest side of a plot, pixels: a larger item shows the plot at its origin. */
@@ -81,9 +82,15 @@ public:
     static void styleAxis(QCPAxis* axis, const CurveAxisStyle& style);
     /** Background of the plot area. */
     void setPlotBrush(const QBrush& brush);
+    /** The plot area (axis rectangle) in item coordinates, as laid out by the last replot. */
+    QRect plotArea() const;
 
     /* inherits documentation from base class */
     void paint(QPainter* painter) override;
+
+Q_SIGNALS:
+    /** A replot laid the plot area out anew. */
+    void plotAreaChanged();
 
 protected:
     void geometryChanged(const QRectF& newGeometry, const QRectF& oldGeometry) override;
@@ -99,6 +106,7 @@ private:
     int m_viewWidth = 0;
     int m_viewHeight = 0;
     double m_timeOffset = 0;
+    QRect m_lastPlotArea;
     bool m_searchState = false;
 };
 
