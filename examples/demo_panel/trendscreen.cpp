@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <list>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -16,6 +17,7 @@ namespace TrendScreen {
 namespace {
 
 const unsigned kChart = 700;
+const unsigned kPump = 701; // the XY chart of the pump characteristic
 const unsigned kDb = 2;
 const unsigned kQueryPage = 1;
 const unsigned kQueryInsert = 2;
@@ -87,6 +89,59 @@ void requestPage(const std::string& where, bool older, int limit = kPage)
     xDatabase::db_query(kDb, kQueryPage, sql.c_str(), true);
 }
 
+/** Head (m) of the pump at flow \a q (m3/h) and speed \a rpm: the affinity laws on one curve. */
+double head(double q, double rpm)
+{
+    const double r = rpm / 1450.0;
+    return std::max(0.0, 42 * r * r - 0.0035 * q * q);
+}
+
+/** The two speed curves over flows \a from..\a to, \a points points each. */
+void sendPumpCurves(double from, double to, int points)
+{
+    std::vector<std::list<FPoint>> curves(2);
+    for (int i = 0; i <= points; ++i) {
+        const double q = from + (to - from) * i / points;
+        curves[0].push_back(FPoint { q, head(q, 1450) });
+        curves[1].push_back(FPoint { q, head(q, 1750) });
+    }
+    View_CurveXyUpdateData(kPump, { 0, 1 }, curves);
+}
+
+void buildPump(unsigned windowId)
+{
+    static View_CurveChannel curves[2] {};
+    curves[0].pen = Pen { 0xFF2F6FD0u, 2, PEN_SOLID };
+    curves[0].lineStyle = CURVE_LINE_PLAIN;
+    curves[0].scatterShape = SCATTER_CIRCLE;
+    curves[0].scatterSize = 5;
+    curves[0].scatterColor = 0xFF2F6FD0u;
+    curves[1] = curves[0];
+    curves[1].pen.color = 0xFFD03A2Fu;
+    curves[1].scatterColor = 0xFFD03A2Fu;
+    View_CurveXy rec {};
+    rec.rect = Rect { 656, 20, 344, 520 };
+    rec.id = kPump;
+    rec.plotBrush = Brush { BRUSH_SOLID, 0xFFFFFFFFu, 0, 0 };
+    for (View_CurveAxis* a : { &rec.xAxis, &rec.yAxis }) {
+        a->basePen = Pen { 0xFF33414Fu, 1, PEN_SOLID };
+        a->tickPen = a->basePen;
+        a->subTickPen = a->basePen;
+        a->tickLengthIn = 6;
+        a->labelFont = &g_axisFont;
+        a->gridPen = Pen { 0xFFD5DCE4u, 1, PEN_DOT };
+        a->tickCount = 5;
+    }
+    rec.xAxis.upper = 120; // flow, m3/h
+    rec.yAxis.upper = 70; // head, m
+    rec.channels = curves;
+    rec.channelCount = 2;
+    rec.selectPen = Pen { 0xFF2F6FD0u, 1, PEN_DASH };
+    rec.selectBrush = Brush { BRUSH_SOLID, 0x302F6FD0u, 0, 0 };
+    View_CreateCurveXy(&rec, windowId);
+    sendPumpCurves(0, 120, 12);
+}
+
 } // namespace
 
 void start()
@@ -140,7 +195,7 @@ void build(unsigned windowId)
     }
     channels[0].smooth = 1; // the sine drawn as a smooth curve
     View_CurveSample rec {};
-    rec.rect = Rect { 24, 20, 976, 520 };
+    rec.rect = Rect { 24, 20, 620, 520 };
     rec.id = kChart;
     rec.xAxisMode = CURVE_X_TIME;
     rec.plotBrush = Brush { BRUSH_LINEAR, 0xFFFFFFFFu, 0xFFF1F4F8u, 90 };
@@ -155,7 +210,7 @@ void build(unsigned windowId)
         a->gridPen = Pen { 0xFFD5DCE4u, 1, PEN_DOT };
         a->subGridPen = Pen { 0xFFE9EDF2u, 1, PEN_DOT };
     }
-    rec.xAxis.tickCount = 6;
+    rec.xAxis.tickCount = 4;
     rec.xAxis.subTickCount = 4;
     rec.xAxis.lower = 0;
     rec.xAxis.upper = 60; // one minute across
@@ -184,6 +239,7 @@ void build(unsigned windowId)
             v[size_t(c)].push_back(std::atof(row[size_t(c) + 1].c_str()));
     }
     View_CurveSamplePushData(kChart, labels, v);
+    buildPump(windowId);
 }
 
 void sample()
@@ -203,6 +259,17 @@ void sample()
 
 bool onEvent(unsigned id, int code, void* data)
 {
+    if (id == kPump) {
+        if (code == EVT_CURVE_XY_SELECT) { // the operator zoomed in: the curves again, finer, over that flow range
+            const auto* r = static_cast<const View_EvtXyRect*>(data);
+            std::printf("demo: pump zoom to flow %.1f..%.1f m3/h, head %.1f..%.1f m\n", r->left, r->right, r->bottom,
+                r->top);
+            sendPumpCurves(std::max(0.0, r->left), std::max(r->left, r->right), 24);
+        } else if (code == EVT_CURVE_XY_RESTORE) {
+            sendPumpCurves(0, 120, 12);
+        }
+        return true;
+    }
     if (id != kChart)
         return false;
     switch (code) {
@@ -268,10 +335,17 @@ bool scriptStep(int n, void (*shot)(const char* name))
     case 13:
         shot("24-trend-zoomed");
         return true;
+    case 14: // a rectangle dragged on the pump chart, around the working range
+        OperatorTouch::dragWidget(kPump, 120, 60, 260, 300);
+        return true;
+    case 16:
+        shot("25-pump-zoomed");
+        return true;
     case 2:
     case 5:
     case 9:
     case 12:
+    case 15:
         return true;
     default:
         return false;
