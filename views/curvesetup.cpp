@@ -1,6 +1,9 @@
 #include "views/curvesetup.h"
 
 #include "platform/guiqtadaptcore.h"
+#include "xcomponents/qquick/customplotitem.h"
+#include "xcomponents/qquick/xcpaxis.h"
+#include "xcomponents/qquick/xcpaxisrect.h"
 
 #include <QPainterPath>
 
@@ -81,6 +84,21 @@ Qt::Orientations toOrientations(U32 bits, bool zoom)
     if (bits & (zoom ? CURVE_ZOOM_Y : CURVE_DRAG_Y))
         o |= Qt::Vertical;
     return o;
+}
+
+void setUpPlot(CustomPlotItem* chart, const Rect& box, U32 interactions, const Brush& background,
+    const View_CurveAxis& x, const View_CurveAxis& y)
+{
+    chart->initCustomPlot(toInteractions(interactions));
+    const QRect r = Core::toQRect(box);
+    chart->setSize(r.size());
+    chart->setOrgPoinsion(QPoint());
+    chart->setPlotBrush(background.style == BRUSH_NONE ? QBrush(Qt::NoBrush)
+                                                       : Core::toQBrush(background, QRectF(QPointF(), r.size())));
+    chart->axisRect()->setRangeDrag(toOrientations(interactions, false));
+    chart->axisRect()->setRangeZoom(toOrientations(interactions, true));
+    CustomPlotItem::styleAxis(chart->xAxis(), toAxisStyle(x));
+    CustomPlotItem::styleAxis(chart->yAxis(), toAxisStyle(y));
 }
 
 QString toDateTimeFormat(const ClockFormat& clock)

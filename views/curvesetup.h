@@ -3,6 +3,8 @@
 
 #include "xcomponents/qquick/curveplotstyle.h"
 
+class CustomPlotItem;
+
 #include <qgui/records_curve.h>
 
 /**
@@ -23,6 +25,12 @@ CurveChannelStyle toChannelStyle(const View_CurveChannel& channel);
 int toInteractions(U32 bits);
 /** Orientations dragged (\a zoom false) or zoomed (\a zoom true) by CurveInteraction bits. */
 Qt::Orientations toOrientations(U32 bits, bool zoom);
+/**
+ * The common start of both chart kinds: the plot with \a interactions, the item's size from \a box,
+ * the plot area's \a background, the drag and zoom orientations, and both axes' looks.
+ */
+void setUpPlot(CustomPlotItem* chart, const Rect& box, U32 interactions, const Brush& background,
+    const View_CurveAxis& x, const View_CurveAxis& y);
 /** The QDateTime format of a clock format; "" when it leaves the form to the tick step. */
 QString toDateTimeFormat(const ClockFormat& clock);
 

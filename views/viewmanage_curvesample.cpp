@@ -48,19 +48,8 @@ int ViewManage::View_CreateCurveSample(const View_CurveSample* rec, unsigned int
         delete item;
         return -1;
     }
-    // the plot, its size and origin, background, interactions, drag and zoom orientations
-    chart->initCustomPlot(CurveSetup::toInteractions(rec->interactions));
-    const QRect box = Core::toQRect(rec->rect);
-    chart->setSize(box.size());
-    chart->setOrgPoinsion(QPoint());
-    chart->setPlotBrush(rec->plotBrush.style == BRUSH_NONE
-            ? QBrush(Qt::NoBrush)
-            : Core::toQBrush(rec->plotBrush, QRectF(QPointF(), box.size())));
-    chart->axisRect()->setRangeDrag(CurveSetup::toOrientations(rec->interactions, false));
-    chart->axisRect()->setRangeZoom(CurveSetup::toOrientations(rec->interactions, true));
-    // the axes
-    CustomPlotItem::styleAxis(chart->xAxis(), CurveSetup::toAxisStyle(rec->xAxis));
-    CustomPlotItem::styleAxis(chart->yAxis(), CurveSetup::toAxisStyle(rec->yAxis));
+    // the plot, its size and origin, background, interactions, drag and zoom orientations, the axes
+    CurveSetup::setUpPlot(chart, rec->rect, rec->interactions, rec->plotBrush, rec->xAxis, rec->yAxis);
     // the tickers, the tick counts and the display number
     chart->yAxis()->ticker()->setTickCount(tickCountOf(rec->yAxis.tickCount));
     chart->setXAxisMode(int(rec->xAxisMode), rec->xAxis.subTickCount, CurveSetup::toDateTimeFormat(rec->clockFormat));

@@ -54,16 +54,7 @@ int ViewManage::View_CreateCurveXy(const View_CurveXy* rec, unsigned int windowI
         delete item;
         return -1;
     }
-    chart->initCustomPlot(CurveSetup::toInteractions(rec->interactions));
-    const QRect box = Core::toQRect(rec->rect);
-    chart->setSize(box.size());
-    chart->setPlotBrush(rec->plotBrush.style == BRUSH_NONE
-            ? QBrush(Qt::NoBrush)
-            : Core::toQBrush(rec->plotBrush, QRectF(QPointF(), box.size())));
-    chart->axisRect()->setRangeDrag(CurveSetup::toOrientations(rec->interactions, false));
-    chart->axisRect()->setRangeZoom(CurveSetup::toOrientations(rec->interactions, true));
-    CustomPlotItem::styleAxis(chart->xAxis(), CurveSetup::toAxisStyle(rec->xAxis));
-    CustomPlotItem::styleAxis(chart->yAxis(), CurveSetup::toAxisStyle(rec->yAxis));
+    CurveSetup::setUpPlot(chart, rec->rect, rec->interactions, rec->plotBrush, rec->xAxis, rec->yAxis);
     if (rec->xAxis.tickCount > 0)
         chart->xAxis()->ticker()->setTickCount(qMin(rec->xAxis.tickCount, 1000));
     if (rec->yAxis.tickCount > 0)
