@@ -46,6 +46,7 @@
 #include "xcomponents/qquick/xtextedit.h"
 #include "xcomponents/qquick/xtreeview.h"
 #include "xcomponents/qquick/xtreeviewcontrol.h"
+#include "xcomponents/qquick/curvecursor.h"
 #include "xcomponents/qquick/curvemousearea.h"
 #include "xcomponents/qquick/curvesamplechart.h"
 #include "xcomponents/qquick/xycurvechart.h"
@@ -132,6 +133,7 @@ void registerQmlTypes()
     // Charts
     qmlRegisterType<CurveSampleChart>(uri, 1, 0, "CurveSampleChart");
     qmlRegisterType<CurveMouseArea>(uri, 1, 0, "CurveMouseArea");
+    qmlRegisterType<CurveCursor>(uri, 1, 0, "CurveCursor");
     qmlRegisterType<XYCurveChart>(uri, 1, 0, "XYCurveChart");
     qmlRegisterType<XYMouseArea>(uri, 1, 0, "XYMouseArea");
 }

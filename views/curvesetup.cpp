@@ -101,6 +101,29 @@ void setUpPlot(CustomPlotItem* chart, const Rect& box, U32 interactions, const B
     CustomPlotItem::styleAxis(chart->yAxis(), toAxisStyle(y));
 }
 
+CurveCursor::Style toCursorStyle(const View_CurveCursorStyle& style)
+{
+    CurveCursor::Style s;
+    if (style.backColor)
+        s.back = Core::toQColor(style.backColor);
+    if (style.headColor)
+        s.head = Core::toQColor(style.headColor);
+    if (style.borderColor)
+        s.border = Core::toQColor(style.borderColor);
+    s.font = Core::toQFont(style.font);
+    if (style.font)
+        s.text = Core::toQColor(style.font->color);
+    if (style.columnWidths) {
+        for (U32 i = 0; i < qMin<U32>(style.columnCount, CurveCursor::kMaxColumns); ++i)
+            s.columnWidths.append(style.columnWidths[i]);
+    }
+    if (style.defaultHeight > 0)
+        s.defaultHeight = style.defaultHeight;
+    s.showHead = style.showTableHead != 0;
+    s.showTitle = style.showTitle != 0 || !style.font; // an empty style record still shows the time
+    return s;
+}
+
 QString toDateTimeFormat(const ClockFormat& clock)
 {
     QString date;

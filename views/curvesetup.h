@@ -1,6 +1,7 @@
 #ifndef CURVESETUP_H
 #define CURVESETUP_H
 
+#include "xcomponents/qquick/curvecursor.h"
 #include "xcomponents/qquick/curveplotstyle.h"
 
 class CustomPlotItem;
@@ -31,6 +32,8 @@ Qt::Orientations toOrientations(U32 bits, bool zoom);
  */
 void setUpPlot(CustomPlotItem* chart, const Rect& box, U32 interactions, const Brush& background,
     const View_CurveAxis& x, const View_CurveAxis& y);
+/** The look of the cursor window (at most CurveCursor::kMaxColumns column widths). */
+CurveCursor::Style toCursorStyle(const View_CurveCursorStyle& style);
 /** The QDateTime format of a clock format; "" when it leaves the form to the tick step. */
 QString toDateTimeFormat(const ClockFormat& clock);
 

@@ -1,10 +1,16 @@
-// The cursor of the sample curve charts: the cursor line is built (a tap on the
-// plot moves it to the nearest sample, and the release reports where it stands);
-// the cursor window's calls are not built yet and return what they return for an
-// unknown id.
+// The cursor of the sample curve charts: the line (a tap on the plot moves it to
+// the nearest sample) and the window beside it, which the chart fills with each
+// channel's value at the cursor; the logic layer names the channels and may
+// replace the window's title, heads and cells.
 #include "views/viewmanage.h"
 
+#include "platform/guiqtadaptcore.h"
+#include "views/tablesetup.h"
+#include "xcomponents/qquick/curvecursor.h"
 #include "xcomponents/qquick/curvesamplechart.h"
+#include "xcomponents/qquick/xcpaxis.h"
+
+using GuiQtAdapt::Core;
 
 int ViewManage::View_CurveEnableCursor(unsigned int id, bool enable)
 {
@@ -16,24 +22,69 @@ int ViewManage::View_CurveEnableCursor(unsigned int id, bool enable)
 }
 
 int ViewManage::View_CurveSampleShowCursor(
-    unsigned int, const std::string&, const std::vector<std::pair<unsigned short, std::string>>&)
+    unsigned int id, const std::string& title, const std::vector<std::pair<unsigned short, std::string>>& rows)
 {
-    return -1;
+    CurveSampleChart* chart = curveSampleChart(id);
+    if (!chart || !chart->cursorWindow())
+        return -1;
+    // each row names a channel: "name" or "name<TAB>unit"
+    QStringList names;
+    QStringList units;
+    for (const auto& row : rows) {
+        if (row.first >= CurveSampleChart::kMaxChannels)
+            continue;
+        while (names.size() <= row.first) {
+            names.append(QString());
+            units.append(QString());
+        }
+        const QString text = Core::cutText(Core::fromUtf8(row.second.c_str()), 256);
+        names[row.first] = text.section(QLatin1Char('\t'), 0, 0);
+        units[row.first] = text.section(QLatin1Char('\t'), 1, 1);
+    }
+    chart->setChannelNames(names, units);
+    if (!chart->cursorLineDataInited())
+        chart->moveCursorTo(chart->xAxis() ? chart->xAxis()->range().center() : 0);
+    chart->setCursorEnabled(true);
+    chart->fillCursorWindow();
+    if (!title.empty())
+        chart->cursorWindow()->setTitle(Core::cutText(Core::fromUtf8(title.c_str()), 256));
+    return 0;
 }
 
 int ViewManage::View_CurveUpdateCursorContent(
-    unsigned int, const char*, const std::vector<std::vector<View_ListColData>>&)
+    unsigned int id, const char* title, const std::vector<std::vector<View_ListColData>>& rows)
 {
-    return -1;
+    CurveSampleChart* chart = curveSampleChart(id);
+    if (!chart || !chart->cursorWindow())
+        return -1;
+    if (title)
+        chart->cursorWindow()->setTitle(Core::cutText(Core::fromUtf8(title), 256));
+    chart->cursorWindow()->setRows(TableSetup::toPage(rows, CurveCursor::kMaxColumns));
+    return 0;
 }
 
 int ViewManage::View_CurveUpdateCursorParams(
-    unsigned int, const std::vector<View_Text>&, const std::vector<Font*>&)
+    unsigned int id, const std::vector<View_Text>& heads, const std::vector<Font*>& fonts)
 {
-    return -1;
+    CurveSampleChart* chart = curveSampleChart(id);
+    if (!chart || !chart->cursorWindow())
+        return -1;
+    QStringList texts;
+    for (const View_Text& head : heads)
+        texts.append(Core::cutText(Core::fromUtf8(head.text), 256));
+    QVector<QFont> columnFonts;
+    for (const Font* font : fonts)
+        columnFonts.append(Core::toQFont(font));
+    chart->cursorWindow()->setHeads(texts);
+    chart->cursorWindow()->setColumnFonts(columnFonts);
+    return 0;
 }
 
-int ViewManage::View_CurveUpdateCursorTitle(unsigned int, const View_Text&)
+int ViewManage::View_CurveUpdateCursorTitle(unsigned int id, const View_Text& title)
 {
-    return -1;
+    CurveSampleChart* chart = curveSampleChart(id);
+    if (!chart || !chart->cursorWindow())
+        return -1;
+    chart->cursorWindow()->setTitle(Core::cutText(Core::fromUtf8(title.text), 256));
+    return 0;
 }

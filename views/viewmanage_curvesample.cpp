@@ -8,6 +8,7 @@
 #include "views/curvesamplecharttimemodecontroller.h"
 #include "views/curvesetup.h"
 #include "views/lifecyclemanager.h"
+#include "xcomponents/qquick/curvecursor.h"
 #include "xcomponents/qquick/curvemousearea.h"
 #include "xcomponents/qquick/curvesamplechart.h"
 #include "xcomponents/qquick/customlabelaxisticker.h"
@@ -76,8 +77,11 @@ int ViewManage::View_CreateCurveSample(const View_CurveSample* rec, unsigned int
     }
     if (auto* area = chart->findChild<CurveMouseArea*>(QStringLiteral("mouseArea")))
         area->setYOriginalRange(chart->yAxis()->range());
-    // the cursor line, hidden until enabled
+    // the cursor line and window, hidden until enabled
     chart->setCursorLinePen(Core::toQPen(rec->cursorPen));
+    auto* cursor = new CurveCursor(chart);
+    cursor->setStyle(CurveSetup::toCursorStyle(rec->cursor));
+    chart->setCursorWindow(cursor);
     // the buttons and the chart's requests
     chart->setSettingBtnVisible(rec->settingButton != 0);
     chart->setRestoreBtnVisible(rec->restoreButton != 0);

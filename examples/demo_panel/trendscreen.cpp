@@ -225,7 +225,8 @@ void build(unsigned windowId)
     View_CreateCurveSample(&rec, windowId);
     double limits[2] = { 0, 100 };
     View_CurveSampleUpdateDataLimit(kChart, 11, 0, limits); // plain numbers, no decimals
-    View_CurveEnableCursor(kChart, true);
+    // the cursor window names the channels; a tap on the plot moves the cursor to the nearest sample
+    View_CurveSampleShowCursor(kChart, "", { { 0, "Sine\t%" }, { 1, "Ramp\t%" }, { 2, "Noise\t%" }, { 3, "Step\t%" } });
     // the last minute from the history, so that the chart opens full
     const xDatabase::DbQueryResult r = xDatabase::db_querySync(kDb,
         "SELECT ts, sine, ramp, noise, step FROM (SELECT * FROM history ORDER BY ts DESC LIMIT 600) ORDER BY ts", true);
@@ -332,6 +333,9 @@ bool scriptStep(int n, void (*shot)(const char* name))
         View_CurveSampleResumeRealMode(kChart);
         View_CurveSampleScale(kChart, 200, 0); // the last half minute, larger
         return true;
+    case 12: // a tap a little left of the middle: the cursor and its window move there
+        OperatorTouch::touchWidget(kChart, 250, 300);
+        return true;
     case 13:
         shot("24-trend-zoomed");
         return true;
@@ -344,7 +348,6 @@ bool scriptStep(int n, void (*shot)(const char* name))
     case 2:
     case 5:
     case 9:
-    case 12:
     case 15:
         return true;
     default:

@@ -15,6 +15,7 @@
 #include "views/curvesamplecharttimemodecontroller.h"
 #include "views/viewmanage.h"
 #include "xcomponents/qquick/basecustomaxisticker.h"
+#include "xcomponents/qquick/curvecursor.h"
 #include "xcomponents/qquick/curvemousearea.h"
 #include "xcomponents/qquick/curvesamplechart.h"
 #include "xcomponents/qquick/customlabelaxisticker.h"
@@ -52,6 +53,8 @@ private Q_SLOTS:
     void search_dialog_confirms_and_is_offered_again();
     void wheel_zoom_shows_the_restore_button();
     void each_channel_draws_in_its_colour();
+    void cursor_window_shows_each_channel_at_the_cursor();
+    void cursor_calls_on_unknown_ids();
 
 private:
     CurveSampleChart* chart(unsigned id) const
@@ -540,6 +543,66 @@ void tst_CurveSample::each_channel_draws_in_its_colour()
         for (int dy = -2; dy <= 2 && !found; ++dy)
             found = shot.pixelColor(p + QPoint(0, dy)) == colours[ch];
         QVERIFY2(found, qPrintable(QString("channel %1 at %2,%3").arg(ch).arg(p.x()).arg(p.y())));
+    }
+}
+
+void tst_CurveSample::cursor_window_shows_each_channel_at_the_cursor()
+{
+    QCOMPARE(create(22, CURVE_X_SAMPLE_LABEL), 0);
+    CurveSampleChart* c = chart(22);
+    double limits[2] = { 0, 10000 };
+    QCOMPARE(View_CurveSampleUpdateDataLimit(22, 3, 2, limits), 0); // raw values with two implied decimals
+    std::vector<std::vector<double>> values(3);
+    std::vector<std::string> labels;
+    for (int i = 0; i < 40; ++i) {
+        values[0].push_back(100 * i); // 1.00 per sample
+        values[1].push_back(5000);
+        labels.push_back("08:00:" + std::string(i < 10 ? "0" : "") + std::to_string(i));
+    }
+    QCOMPARE(View_CurveSamplePushData(22, labels, values), 0);
+    QCOMPARE(View_CurveHideChannel(22, 2, true), 0); // a hidden channel has no row
+    QCOMPARE(View_CurveSampleShowCursor(22, "", { { 0, "Flow\tm3/h" }, { 1, "Level" }, { 999, "ignored" } }), 0);
+    CurveCursor* w = c->cursorWindow();
+    QVERIFY(w);
+    QVERIFY(w->isVisible());
+    // a tap at sample 12 moves the line and fills the window for that sample
+    PanelFixture::settle();
+    const QRect area = c->plotArea();
+    const double x = c->xAxis()->coordToPixel(12) + c->orgPosition().x();
+    m_panel.click(m_panel.scenePoint(c, QPointF(x, area.center().y())));
+    PanelFixture::settle();
+    QCOMPARE(c->cursorKey(), 12.0);
+    QCOMPARE(w->title(), QStringLiteral("08:00:12")); // the sample's own label
+    QCOMPARE(w->rows().size(), 2);
+    QCOMPARE(w->cellText(0, 0), QStringLiteral("Flow"));
+    QCOMPARE(w->cellText(0, 1), QStringLiteral("12.00"));
+    QCOMPARE(w->cellText(0, 2), QStringLiteral("m3/h"));
+    QCOMPARE(w->cellText(1, 0), QStringLiteral("Level"));
+    QCOMPARE(w->cellText(1, 1), QStringLiteral("50.00"));
+    QVERIFY(w->x() > x); // beside the line
+    // the logic layer replaces the title, heads and cells
+    QCOMPARE(View_CurveUpdateCursorTitle(22, View_Text { 0, Rect {}, 0, "Batch 7", nullptr, nullptr }), 0);
+    QCOMPARE(w->title(), QStringLiteral("Batch 7"));
+    QCOMPARE(View_CurveUpdateCursorParams(22, { View_Text { 0, Rect {}, 0, "Name", nullptr, nullptr } }, { nullptr }), 0);
+    QCOMPARE(w->heads(), QStringList { "Name" });
+    QCOMPARE(View_CurveUpdateCursorContent(22, nullptr, { { View_ListColData { "a", nullptr, nullptr, 0, 0 } } }), 0);
+    QCOMPARE(w->title(), QStringLiteral("Batch 7")); // a null title keeps it
+    QCOMPARE(w->rows().size(), 1);
+    QCOMPARE(w->cellText(0, 0), QStringLiteral("a"));
+    // the cursor switched off: the window goes
+    QCOMPARE(View_CurveEnableCursor(22, false), 0);
+    QVERIFY(!w->isVisible());
+}
+
+void tst_CurveSample::cursor_calls_on_unknown_ids()
+{
+    QVERIFY(PanelFixture::control(77, A));
+    for (unsigned id : { 4242u, 0u, 77u }) {
+        QCOMPARE(View_CurveEnableCursor(id, true), -1);
+        QCOMPARE(View_CurveSampleShowCursor(id, "t", {}), -1);
+        QCOMPARE(View_CurveUpdateCursorContent(id, "t", {}), -1);
+        QCOMPARE(View_CurveUpdateCursorParams(id, {}, {}), -1);
+        QCOMPARE(View_CurveUpdateCursorTitle(id, View_Text {}), -1);
     }
 }
 

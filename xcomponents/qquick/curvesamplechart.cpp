@@ -1,6 +1,7 @@
 #include "xcomponents/qquick/curvesamplechart.h"
 
 #include "platform/logiclayercaller.h"
+#include "xcomponents/qquick/curvecursor.h"
 #include "xcomponents/qquick/customlabelaxisticker.h"
 #include "xcomponents/qquick/customxaxistickerpnt.h"
 #include "xcomponents/qquick/customxaxistickerpntt.h"
@@ -423,9 +424,81 @@ void CurveSampleChart::setCursorEnabled(bool on)
     }
     if (m_cursorLine)
         m_cursorLine->setVisible(on);
+    if (on && m_cursorInited)
+        fillCursorWindow();
     if (m_cursorWindow)
-        m_cursorWindow->setVisible(on && m_cursorWindow->property("hasContent").toBool());
+        m_cursorWindow->setVisible(on && m_cursorWindow->hasContent());
     queueReplot();
+}
+
+void CurveSampleChart::setCursorWindow(CurveCursor* window)
+{
+    m_cursorWindow = window;
+    if (window) {
+        window->setParentItem(this);
+        window->setVisible(false);
+    }
+}
+
+void CurveSampleChart::setChannelNames(const QStringList& names, const QStringList& units)
+{
+    m_channelNames = names;
+    m_channelUnits = units;
+    if (m_cursorInited)
+        fillCursorWindow();
+}
+
+void CurveSampleChart::fillCursorWindow()
+{
+    CurveCursor* window = m_cursorWindow.data();
+    if (!window || !xAxis())
+        return;
+    const double key = m_cursorKey;
+    QString title;
+    if (m_xAxisMode == TimeAxis) {
+        title = keyToDateTime(key).toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+    } else if (m_xAxisMode == SampleLabelAxis && xTicker() && !xTicker()->labelAt(key).isEmpty()) {
+        title = xTicker()->labelAt(key);
+    } else {
+        const auto* pnt = dynamic_cast<CustomXAxisTickerPnt*>(xTicker());
+        title = QStringLiteral("#") + QString::number(double(pnt ? pnt->startTickerNo() : 0) + key, 'g', 10);
+    }
+    QVector<QVector<XTableCell>> rows;
+    QVector<QColor> marks;
+    const CustomLabelAxisTicker* y = yTicker();
+    for (int c = 0; c < m_graphs.size(); ++c) {
+        XCPGraph* graph = m_graphs.at(c);
+        if (!graph->visible())
+            continue;
+        // the sample nearest the cursor
+        QString value = QStringLiteral("-");
+        const auto data = graph->data();
+        if (!data->isEmpty()) {
+            auto it = data->findBegin(key, false);
+            auto best = it;
+            if (it != data->constEnd() && it + 1 != data->constEnd()
+                && std::fabs((it + 1)->key - key) < std::fabs(it->key - key))
+                best = it + 1;
+            if (best == data->constEnd())
+                best = data->constEnd() - 1;
+            if (y && std::isfinite(best->value))
+                value = y->valueText(best->value);
+        }
+        XTableCell name;
+        name.text = c < m_channelNames.size() && !m_channelNames[c].isEmpty() ? m_channelNames[c]
+                                                                            : QStringLiteral("Channel %1").arg(c + 1);
+        XTableCell v;
+        v.text = value;
+        XTableCell unit;
+        unit.text = m_channelUnits.value(c);
+        rows.append({ name, v, unit });
+        marks.append(graph->pen().color());
+    }
+    window->setTitle(title);
+    window->setRows(rows, marks);
+    if (XCPAxis* x = xAxis())
+        window->placeBeside(x->coordToPixel(key) + orgPosition().x(), QRectF(plotArea()));
+    window->setVisible(m_cursorEnabled && window->hasContent());
 }
 
 void CurveSampleChart::moveCursorTo(double key)
@@ -438,6 +511,7 @@ void CurveSampleChart::moveCursorTo(double key)
         m_cursorLine->point1->setCoords(m_cursorKey, 0);
         m_cursorLine->point2->setCoords(m_cursorKey, 100);
     }
+    fillCursorWindow();
     Q_EMIT cursorMoved(m_cursorKey);
     queueReplot();
 }
@@ -518,4 +592,11 @@ void CurveSampleChart::onXRangeChanged(const QCPRange& range)
     }
     if (axisRect() && axisRect()->isDragging())
         setRealTimeCurve(false);
+    // the cursor window goes with its line, and out of sight with it
+    if (m_cursorWindow && m_cursorEnabled && m_cursorInited) {
+        const bool inView = pointInCurrent(m_cursorKey);
+        m_cursorWindow->setVisible(inView && m_cursorWindow->hasContent());
+        if (inView)
+            m_cursorWindow->placeBeside(xAxis()->coordToPixel(m_cursorKey) + orgPosition().x(), QRectF(plotArea()));
+    }
 }

@@ -10,6 +10,7 @@
 #include <vector>
 
 class BaseCustomAxisTicker;
+#include "xcomponents/qquick/curvecursor.h"
 class CustomLabelAxisTicker;
 class XCPGraph;
 
@@ -133,8 +134,14 @@ public:
     /** Puts the cursor line at key \a key (the nearest whole sample outside time mode). */
     void moveCursorTo(double key);
     double cursorKey() const { return m_cursorKey; }
-    QQuickItem* cursorWindow() const { return m_cursorWindow.data(); }
-    void setCursorWindow(QQuickItem* window) { m_cursorWindow = window; }
+    CurveCursor* cursorWindow() const { return m_cursorWindow.data(); }
+    /** The cursor window (a child of the chart), filled and placed whenever the cursor moves. */
+    void setCursorWindow(CurveCursor* window);
+    /** Channel names and units for the cursor window (a channel past the lists: "Channel n", no unit). */
+    void setChannelNames(const QStringList& names, const QStringList& units);
+    /** Fills the cursor window for the cursor's key: the title and, per visible channel, its colour,
+     *  name, value at the nearest sample, and unit. */
+    void fillCursorWindow();
 
     bool useSettingBtn() const { return m_settingBtn; }
     void setSettingBtnVisible(bool on);
@@ -187,7 +194,9 @@ private:
     bool m_cursorInited = false;
     bool m_cursorEnabled = false;
     double m_cursorKey = 0;
-    QPointer<QQuickItem> m_cursorWindow;
+    QPointer<CurveCursor> m_cursorWindow;
+    QStringList m_channelNames;
+    QStringList m_channelUnits;
     bool m_settingBtn = false;
     bool m_restoreBtn = false;
     bool m_zoomed = false;

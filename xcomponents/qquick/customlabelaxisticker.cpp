@@ -36,7 +36,14 @@ QString CustomLabelAxisTicker::labelFor(double tick) const
     }
     if (m_flagXY)
         return QString::number(tick, 'g', 6);
-    double value = m_low + (m_high - m_low) * tick / qMax(1, tickCount());
+    return valueText(tick);
+}
+
+QString CustomLabelAxisTicker::valueText(double plot) const
+{
+    if (!std::isfinite(plot))
+        return QString();
+    double value = m_low + (m_high - m_low) * plot / qMax(1, tickCount());
     if (m_dataType != TypeFloat && m_dataType != TypeDouble)
         value /= std::pow(10.0, m_decimals);
     return QString::number(value, 'f', m_decimals);

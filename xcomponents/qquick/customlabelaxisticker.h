@@ -52,6 +52,9 @@ public:
     /** The plot value (tick units) of the engineering value \a value: (value - low) * N / (high - low),
      *  built as (percent of the range) / (100 / N). 0 when low == high. */
     double toPlot(double value) const;
+    /** The engineering value at plot value \a plot written as a number label would be (the labels
+     *  left aside): low + (high - low) * plot / N, the implied decimals applied. */
+    QString valueText(double plot) const;
     /** The label of tick \a tick (as described above). */
     QString labelFor(double tick) const;
 
