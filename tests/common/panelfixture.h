@@ -49,6 +49,8 @@ public:
     /** Clicks the on-screen keyboard's keys by name ("4", "q", "clear", "enter"); false when one is not shown. */
     bool typeOnKeyboard(const QStringList& keys);
     void touch(QPoint scenePos);
+    /** The fixture's touch screen, for gestures of several fingers. */
+    QTouchDevice* touchDevice() const { return m_touch; }
     void press(QPoint scenePos);
     void release(QPoint scenePos);
     /** Lets queued calls and deferred deletions run. */

@@ -55,6 +55,8 @@ private Q_SLOTS:
     void each_channel_draws_in_its_colour();
     void cursor_window_shows_each_channel_at_the_cursor();
     void cursor_calls_on_unknown_ids();
+    void two_fingers_pinch_the_span();
+    void a_chart_deleted_in_a_drag();
 
 private:
     CurveSampleChart* chart(unsigned id) const
@@ -604,6 +606,62 @@ void tst_CurveSample::cursor_calls_on_unknown_ids()
         QCOMPARE(View_CurveUpdateCursorParams(id, {}, {}), -1);
         QCOMPARE(View_CurveUpdateCursorTitle(id, View_Text {}), -1);
     }
+}
+
+void tst_CurveSample::two_fingers_pinch_the_span()
+{
+    QCOMPARE(create(23), 0);
+    CurveSampleChart* c = chart(23);
+    push(23, 80);
+    PanelFixture::settle();
+    QVERIFY(TestUtil::waitForFrame(m_panel.view()));
+    const QPoint centre = m_panel.scenePoint(c, c->plotArea().center());
+    QWindow* w = m_panel.view();
+    // two fingers land together and spread apart: the span shrinks, nothing is pressed
+    m_rec.clear();
+    QTest::touchEvent(w, m_panel.touchDevice()).press(0, centre - QPoint(30, 0), w).press(1, centre + QPoint(30, 0), w);
+    for (int step = 1; step <= 5; ++step) {
+        QTest::touchEvent(w, m_panel.touchDevice())
+            .move(0, centre - QPoint(30 + 20 * step, 0), w)
+            .move(1, centre + QPoint(30 + 20 * step, 0), w);
+    }
+    QTest::touchEvent(w, m_panel.touchDevice()).release(0, centre - QPoint(130, 0), w).release(1, centre + QPoint(130, 0), w);
+    PanelFixture::settle();
+    const double pinched = c->xAxis()->range().size();
+    QVERIFY2(pinched < 100.0, qPrintable(QString::number(pinched)));
+    QCOMPARE(m_rec.count(EVT_WIDGET_PRESS), 0);
+    // one finger still drags the plot (as the mouse does) and reports press and release
+    QTest::touchEvent(w, m_panel.touchDevice()).press(0, centre, w);
+    for (int step = 1; step <= 5; ++step)
+        QTest::touchEvent(w, m_panel.touchDevice()).move(0, centre + QPoint(20 * step, 0), w);
+    QTest::touchEvent(w, m_panel.touchDevice()).release(0, centre + QPoint(100, 0), w);
+    PanelFixture::settle();
+    QCOMPARE(m_rec.count(EVT_WIDGET_PRESS), 1);
+    QCOMPARE(m_rec.count(EVT_WIDGET_RELEASE), 1);
+    QVERIFY(!c->isRealTimeCurve());
+}
+
+void tst_CurveSample::a_chart_deleted_in_a_drag()
+{
+    QCOMPARE(create(24), 0);
+    CurveSampleChart* c = chart(24);
+    push(24, 300);
+    PanelFixture::settle();
+    QVERIFY(TestUtil::waitForFrame(m_panel.view()));
+    const QPoint from = m_panel.scenePoint(c, c->plotArea().center());
+    QTest::mousePress(m_panel.view(), Qt::LeftButton, Qt::NoModifier, from);
+    QCOMPARE(View_DeleteWidgets({ 24u }), 0); // the logic layer deletes it under the finger
+    PanelFixture::settle();
+    for (int step = 1; step <= 5; ++step) {
+        const QPoint p = from + QPoint(40 * step, 0);
+        QMouseEvent move(QEvent::MouseMove, p, p, m_panel.view()->mapToGlobal(p), Qt::NoButton, Qt::LeftButton,
+            Qt::NoModifier);
+        QCoreApplication::sendEvent(m_panel.view(), &move);
+    }
+    QTest::mouseRelease(m_panel.view(), Qt::LeftButton, Qt::NoModifier, from + QPoint(200, 0), 5);
+    PanelFixture::settle();
+    QVERIFY(!chart(24));
+    QCOMPARE(m_rec.count(EVT_CURVE_PRELOAD), 0);
 }
 
 QGUI_GUIAPP_TEST_MAIN(tst_CurveSample)
