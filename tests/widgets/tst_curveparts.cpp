@@ -158,6 +158,7 @@ void tst_CurveParts::time_steps_and_labels_data()
     QTest::newRow("half a day in 2 h steps") << 43200.0 << 6 << 7200.0 << "02:00";
     QTest::newRow("a month in 7 day steps") << 30 * 86400.0 << 5 << 7 * 86400.0 << "03-09"; // Mondays
     QTest::newRow("a year in 3 month steps") << 365 * 86400.0 << 5 << 90 * 86400.0 << "2026-04";
+    QTest::newRow("ten years in 2 year steps") << 3650 * 86400.0 << 5 << 730 * 86400.0 << "2028";
 }
 
 void tst_CurveParts::time_steps_and_labels()

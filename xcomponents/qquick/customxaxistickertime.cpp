@@ -62,30 +62,17 @@ QVector<double> CustomXAxisTickerTime::createTickVector(double tickStep, const Q
     QVector<double> ticks;
     if (!(tickStep > 0) || !std::isfinite(range.lower) || !std::isfinite(range.upper))
         return ticks;
-    if (tickStep >= kMonth && tickStep < kYear) {
-        // months: the 1st of every month (or every third month) at midnight
-        const int months = tickStep >= 3 * kMonth ? 3 : 1;
+    if (tickStep >= kMonth) {
+        // calendar steps: the 1st of every month, every third month, or January of whole years
+        const int months = tickStep >= kYear ? 12 * qMax(1, int(std::round(tickStep / kYear)))
+                                             : (tickStep >= 3 * kMonth ? 3 : 1);
         const QDateTime from = keyToDateTime(range.lower);
         if (!from.isValid())
             return ticks;
-        QDate d(from.date().year(), from.date().month(), 1);
-        d = d.addMonths(-((d.month() - 1) % months));
+        const int y = from.date().year();
+        const int m = from.date().month();
+        QDate d = months % 12 == 0 ? QDate(y - y % (months / 12), 1, 1) : QDate(y, m - (m - 1) % months, 1);
         for (int i = 0; i < kMaxTicks; ++i, d = d.addMonths(months)) {
-            const double key = dateTimeToKey(QDateTime(d, QTime(0, 0)));
-            if (key > range.upper)
-                break;
-            if (key >= range.lower)
-                ticks.append(key);
-        }
-        return ticks;
-    }
-    if (tickStep >= kYear) {
-        const int years = qMax(1, int(std::round(tickStep / kYear)));
-        const QDateTime from = keyToDateTime(range.lower);
-        if (!from.isValid())
-            return ticks;
-        QDate d(from.date().year() - from.date().year() % years, 1, 1);
-        for (int i = 0; i < kMaxTicks; ++i, d = d.addYears(years)) {
             const double key = dateTimeToKey(QDateTime(d, QTime(0, 0)));
             if (key > range.upper)
                 break;
