@@ -6,7 +6,6 @@
 #include "views/qmlwindowmanage.h"
 #include "xcomponents/qquick/basecustomaxisticker.h"
 #include "xcomponents/qquick/curvesamplechart.h"
-#include "xcomponents/qquick/customxaxistickertime.h"
 #include "xcomponents/qquick/xcpaxis.h"
 #include "xcomponents/qquick/xcpaxisrect.h"
 #include "xcomponents/qquick/xcpgraph.h"
@@ -76,8 +75,6 @@ void CurveSampleChartTimeModeController::setOrgRange(CurveSampleChart* chart, do
     const bool given = std::isfinite(lower) && std::isfinite(upper) && upper > lower && upper - lower < 3.2e9;
     const double span = given ? upper - lower : kDefaultSpan;
     chart->setTimeOffset(double(QDateTime::currentMSecsSinceEpoch()) / 1000.0 - span);
-    if (auto* ticker = dynamic_cast<CustomXAxisTickerTime*>(chart->xTicker()))
-        ticker->setStartOffset(chart->timeOffset());
     chart->setOrgRange(QCPRange(0, span));
 }
 
@@ -88,8 +85,6 @@ void CurveSampleChartTimeModeController::init(CurveSampleChart* chart, const QSt
     const double offset = at.isValid() ? double(at.toMSecsSinceEpoch()) / 1000.0
                                        : double(QDateTime::currentMSecsSinceEpoch()) / 1000.0 - span;
     chart->setTimeOffset(offset);
-    if (auto* ticker = dynamic_cast<CustomXAxisTickerTime*>(chart->xTicker()))
-        ticker->setStartOffset(offset);
     chart->axisRect()->resetData();
     chart->setXMinData(0);
     chart->setXMaxData(0);

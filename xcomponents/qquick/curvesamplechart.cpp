@@ -60,6 +60,13 @@ void CurveSampleChart::setXAxisMode(int mode, int subTicks, const QString& clock
         Qt::UniqueConnection);
 }
 
+void CurveSampleChart::setTimeOffset(double seconds)
+{
+    CustomPlotItem::setTimeOffset(seconds);
+    if (auto* time = dynamic_cast<CustomXAxisTickerTime*>(xTicker()))
+        time->setStartOffset(seconds);
+}
+
 BaseCustomAxisTicker* CurveSampleChart::xTicker() const
 {
     return xAxis() ? dynamic_cast<BaseCustomAxisTicker*>(xAxis()->ticker().data()) : nullptr;

@@ -57,6 +57,8 @@ public:
     /** Installs the x ticker of \a mode (unknown modes: 0) with \a subTicks minor ticks and \a clockFormat. */
     void setXAxisMode(int mode, int subTicks, const QString& clockFormat);
     BaseCustomAxisTicker* xTicker() const;
+    /** Key 0 of the time axis; the time ticker follows. */
+    void setTimeOffset(double seconds) override;
     CustomLabelAxisTicker* yTicker() const;
 
     QCPRange orgRange() const { return m_orgRange; }
