@@ -1,4 +1,6 @@
 // Exports: identifier and option helpers.
+#include "config/projectmanage.h"
+
 #include <qgui/ids.h>
 
 unsigned int GetDeskNoFromWndId(unsigned int wndId)
@@ -18,6 +20,5 @@ bool IsValidStrEncode(int code)
 
 const char* getStorePath(unsigned int storeNo)
 {
-    static const char* const paths[] = { "disk/tmp/", "disk/hmi/", "disk/sd/", "disk/usb1/", "disk/usb2/" };
-    return storeNo < 5 ? paths[storeNo] : "";
+    return ProjectManage::storeFolder(storeNo);
 }

@@ -21,6 +21,14 @@ public:
     /** The fonts shipped beside the application: "<application dir>/DefaultFont". */
     QString getDefaultFontPath() const;
 
+    /** Number of storage folders (0 temporary, 1 panel, 2 SD card, 3 and 4 USB sticks). */
+    static constexpr unsigned kStoreCount = 5;
+    /** The folder of storage \a storeNo relative to the project, ending with '/' ("disk/usb1/");
+     *  "" for a number that names none. */
+    static const char* storeFolder(unsigned storeNo);
+    /** The absolute folder of storage \a storeNo in the project; "" for none or without a project. */
+    QString getStorePath(unsigned storeNo) const;
+
 private:
     ProjectManage() = default;
 

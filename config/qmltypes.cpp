@@ -14,6 +14,19 @@
 #include "xcomponents/qquick/xalarmtablebarheadermodel.h"
 #include "xcomponents/qquick/xhalarmbarcontrol.h"
 #include "xcomponents/qquick/xhalarmbarrepeater.h"
+#include "xcomponents/qquick/xheadermodel.h"
+#include "xcomponents/qquick/baseslider.h"
+#include "xcomponents/qquick/sliderruler.h"
+#include "xcomponents/qquick/xbar.h"
+#include "xcomponents/qquick/xgroup.h"
+#include "xcomponents/qquick/xmeter.h"
+#include "xcomponents/qquick/xpipeline.h"
+#include "xcomponents/qquick/xquickfiledialog.h"
+#include "xcomponents/qquick/xpdfview.h"
+#include "xcomponents/qquick/xshapearc.h"
+#include "xcomponents/qquick/xusbselectfiledata.h"
+#include "xcomponents/qquick/xshapeimage.h"
+#include "xcomponents/qquick/xshapescale.h"
 #include "xcomponents/qquick/xlistmodel.h"
 #include "xcomponents/qquick/xlistview.h"
 #include "xcomponents/qquick/xtablefilterdlg.h"
@@ -92,6 +105,19 @@ void registerQmlTypes()
 
     // Shapes and images
     qmlRegisterType<XQuickImage>(uri, 1, 0, "XImage");
+    qmlRegisterType<XShapeArc>(uri, 1, 0, "XShapeArc");
+    qmlRegisterType<XQuickFileDialog>(uri, 1, 0, "XQuickFileDialog");
+    qmlRegisterType<XUsbSelectFileData>(uri, 1, 0, "XUsbSelectFileData");
+    qmlRegisterType<XPdfView>(uri, 1, 0, "XPdfView");
+    qmlRegisterType<XShapeImage>(uri, 1, 0, "XShapeImage");
+    qmlRegisterType<XShapeItem>(uri, 1, 0, "XShapeItem");
+    qmlRegisterType<XShapeScale>(uri, 1, 0, "XShapeScale");
+    qmlRegisterType<XMeter>(uri, 1, 0, "XMeter");
+    qmlRegisterType<XPipeLine>(uri, 1, 0, "XPipeLine");
+    qmlRegisterType<XBar>(uri, 1, 0, "XBar");
+    qmlRegisterType<XGroup>(uri, 1, 0, "XGroup");
+    qmlRegisterType<BaseSlider>(uri, 1, 0, "BaseSlider");
+    qmlRegisterUncreatableType<SliderRuler>(uri, 1, 0, "SliderRuler", QStringLiteral("made by its slider"));
     qmlRegisterType<XQRCode>(uri, 1, 0, "XQRCode");
 
     // Virtual keyboard: the Pinyin candidate bar
@@ -116,6 +142,7 @@ void registerQmlTypes()
     qmlRegisterType<XHAlarmBarControl>(uri, 1, 0, "XHAlarmBarControl");
     qmlRegisterType<XHAlarmBarRepeater>(uri, 1, 0, "XHAlarmBarRepeater");
     qmlRegisterType<XListModel>(uri, 1, 0, "XListModel");
+    qmlRegisterType<XHeaderModel>(uri, 1, 0, "XHeaderModel");
     qmlRegisterType<XQuickListView>(uri, 1, 0, "XQuickListView");
     qmlRegisterType<XListView>(uri, 1, 0, "XListView");
     qmlRegisterType<XAlarmTableBar>(uri, 1, 0, "XAlarmTableBar");

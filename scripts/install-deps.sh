@@ -17,7 +17,7 @@ PACKAGES=(
   qml-module-qt-labs-calendar qml-module-qttest qml-module-qtqml-models2
   # libraries
   qttools5-dev-tools
-  libqcustomplot-dev libqrcodegencpp-dev libpaho-mqtt-dev libssl-dev
+  libqcustomplot-dev libqrcodegencpp-dev libpaho-mqtt-dev libssl-dev qtpdf5-dev
   libspdlog-dev libfmt-dev
   # a real Pinyin engine for the demo's logic layer (the library does not link it)
   libgooglepinyin0-dev
@@ -25,7 +25,7 @@ PACKAGES=(
   xvfb xauth libgl1-mesa-dri libegl-mesa0 mesa-utils
   fonts-noto-cjk fonts-dejavu-core
   # servers and tools used by the tests
-  mosquitto mosquitto-clients postgresql mariadb-server p7zip-full zbar-tools
+  mosquitto mosquitto-clients postgresql mariadb-server p7zip-full zbar-tools poppler-utils
   procps binutils
 )
 

@@ -4,6 +4,7 @@
 
 #include <QMetaObject>
 #include <QQuickItem>
+#include <QSet>
 
 LifeCycleManager::LifeCycleManager()
 {
@@ -129,10 +130,14 @@ void LifeCycleManager::hideWindow(QQuickItem* windowContent, QHash<unsigned, QQu
     const QList<QQuickItem*> children = windowContent->childItems();
     for (QQuickItem* child : children) {
         const unsigned id = itemId(child);
-        if (id == 0 && !child->property("isGroup").toBool())
+        const bool group = child->property("isGroup").toBool();
+        if (id == 0 && !group)
             continue; // decoration of the window, not a widget
-        if (child->property("isGroup").toBool())
-            hideWindow(child, hash); // the members of a group leave with it
+        if (group) {
+            // the members leave with their group and stay in it
+            for (unsigned member : membersOf(child))
+                hash.remove(member);
+        }
         hash.remove(id);
         child->setVisible(false);
         child->setParentItem(nullptr);
@@ -142,6 +147,25 @@ void LifeCycleManager::hideWindow(QQuickItem* windowContent, QHash<unsigned, QQu
             m_invisible[id] = child;
         }
     }
+}
+
+QList<unsigned> LifeCycleManager::membersOf(QQuickItem* group) const
+{
+    QList<unsigned> ids;
+    QList<QQuickItem*> pending = group ? group->childItems() : QList<QQuickItem*>();
+    QSet<QQuickItem*> seen;
+    while (!pending.isEmpty()) {
+        QQuickItem* item = pending.takeLast();
+        if (seen.contains(item))
+            continue;
+        seen.insert(item);
+        const unsigned id = itemId(item);
+        if (id != 0 && findItemMaybeInvisible(id) == item)
+            ids.append(id);
+        if (item->property("isGroup").toBool())
+            pending += item->childItems();
+    }
+    return ids;
 }
 
 QList<QQuickItem*> LifeCycleManager::allItems() const

@@ -40,9 +40,11 @@ public:
     /** Re-sorts every entry by whether its item has a parent item now. */
     void swapCache();
     /** Takes the widgets out of a closing window: each child of \a windowContent (and the
-     *  children of group items) is made invisible, unparented and removed from \a hash; the
-     *  items stay in the caches. */
+     *  the members of group items) is made invisible, unparented and removed from \a hash;
+     *  members stay inside their group, and all items stay in the caches. */
     void hideWindow(QQuickItem* windowContent, QHash<unsigned, QQuickItem*>& hash);
+    /** The registered widgets inside group item \a group, at any depth of groups. */
+    QList<unsigned> membersOf(QQuickItem* group) const;
 
     int visibleCount() const { return int(m_visible.size()); }
     int invisibleCount() const { return int(m_invisible.size()); }

@@ -9,7 +9,10 @@
 #include "views/presswatcher.h"
 #include "xcomponents/qquick/keyboardwindowtitile.h"
 #include "xcomponents/qquick/lighterpopup.h"
+#include "config/projectmanage.h"
 #include "xcomponents/qquick/xlumodialog.h"
+#include "xcomponents/qquick/xquickfiledialog.h"
+#include "xcomponents/qquick/xusbselectfiledata.h"
 #include "xcomponents/qquick/xqmlcomponentmanage.h"
 #include "xcomponents/qquick/xwindow.h"
 #include "xcomponents/qquick/xwindowbackground.h"
@@ -30,6 +33,7 @@ const QUrl kLighterUrl(QStringLiteral("qrc:/QmlLighterPopup.qml"));
 const QUrl kMessageUrl(QStringLiteral("qrc:/QmlMessageBox.qml"));
 const QUrl kBusyUrl(QStringLiteral("qrc:/QmlBusyBar.qml"));
 const QUrl kDateTimeUrl(QStringLiteral("qrc:/datetimeset/XDateTimeSet.qml"));
+const QUrl kFileDialogUrl(QStringLiteral("qrc:/QmlFileDialog.qml"));
 const char kDateTimeFormat[] = "yyyy-MM-dd hh:mm:ss";
 constexpr int kDefaultTitleHeight = 40;
 
@@ -58,6 +62,7 @@ QmlWindowManage::~QmlWindowManage()
     delete m_msgBox.data();
     delete m_busyBar.data();
     delete m_dateTime.data();
+    delete m_fileDialog.data();
     for (const auto& l : qAsConst(m_lighters))
         delete l.data();
     for (const auto& d : qAsConst(m_desktops))
@@ -537,4 +542,41 @@ XPopup* QmlWindowManage::popupDateTimeWindow(QQuickItem* widget, const QString& 
     m_dateTime = popup;
     popup->open();
     return popup;
+}
+
+XQuickFileDialog* QmlWindowManage::popupFileDialog(unsigned windowId, const QString& path)
+{
+    if (!getWindow(windowId))
+        return nullptr;
+    XOverlay* overlay = getOverlay(GetDeskNoFromWndId(windowId));
+    if (!overlay)
+        return nullptr;
+    if (XQuickFileDialog* old = m_fileDialog.data()) {
+        m_fileDialog.clear();
+        old->cancel(); // its 770 with no data, then it goes
+    }
+    auto* dialog = qobject_cast<XQuickFileDialog*>(XQmlComponentManage::getInstance()->createItem(kFileDialogUrl, overlay));
+    if (!dialog)
+        return nullptr;
+    // the roots: the panel's own storage, the SD card and the two USB sticks
+    static const char* const labels[] = { "hmi", "sd", "usb1", "usb2" };
+    QVector<QPair<QString, QString>> roots;
+    const ProjectManage* project = ProjectManage::getInstance();
+    for (unsigned n = 1; n <= 4; ++n)
+        roots.append({ QString::fromLatin1(labels[n - 1]), project->getStorePath(n) });
+    dialog->files()->setRoots(roots);
+    dialog->setDialogId(windowId);
+    dialog->start(path, project->getPrjPath());
+    dialog->setOverlay(overlay);
+    dialog->setZ(kDateTimeZ);
+    dialog->setPosition(QPointF(qMax<qreal>(0, (overlay->width() - dialog->width()) / 2),
+        qMax<qreal>(0, (overlay->height() - dialog->height()) / 2)));
+    connect(dialog, &XPopup::closed, this, [this, dialog]() {
+        if (m_fileDialog == dialog)
+            m_fileDialog.clear();
+        dialog->deleteLater();
+    });
+    m_fileDialog = dialog;
+    dialog->open();
+    return dialog;
 }

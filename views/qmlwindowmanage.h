@@ -9,6 +9,7 @@
 #include <QString>
 
 #include "platform/xpopup.h"
+#include "xcomponents/qquick/xquickfiledialog.h"
 #include "xcomponents/qquick/xwindowlocator.h"
 
 #include <qgui/records_window.h>
@@ -94,6 +95,13 @@ public:
      */
     XPopup* popupDateTimeWindow(QQuickItem* widget, const QString& text);
     XPopup* dateTimeWindow() const { return m_dateTime.data(); }
+    /**
+     * The file dialog for window \a windowId (on its desktop), rooted in the project's storage folders
+     * and started at \a path (see XQuickFileDialog::start); its 770 carries \a windowId. A dialog still
+     * open is cancelled first. Null for an unknown window.
+     */
+    XQuickFileDialog* popupFileDialog(unsigned windowId, const QString& path);
+    XQuickFileDialog* fileDialog() const { return m_fileDialog.data(); }
 
     QQmlEngine* getEngine() const;
     /** The item desktops are placed in (the shell's panel content), or null without a shell. */
@@ -116,6 +124,7 @@ private:
     QPointer<XPopup> m_msgBox;
     QPointer<QQuickItem> m_busyBar;
     QPointer<XPopup> m_dateTime;
+    QPointer<XQuickFileDialog> m_fileDialog;
     PressWatcher* m_pressWatcher = nullptr; // owned (child)
     unsigned m_currentDesk = 0;
     bool m_hasDesk = false;

@@ -1,3 +1,4 @@
+#include "views/pdfwriterstate.h"
 #include "views/viewmanage.h"
 
 #include "config/globalconfig.h"
@@ -42,6 +43,7 @@ ViewManage::ViewManage()
     , m_vkb(std::make_unique<VkbState>())
     , m_pinyin(std::make_unique<PinyinState>())
     , m_list(std::make_unique<ListState>(m_vkb.get()))
+    , m_pdfWriters(std::make_unique<PdfWriterState>())
 {
     XQmlComponentManage::getInstance()->setWindowManage(m_windowManage.get());
     // the keyboard's layer takes the panel's dimming colour and stays usable on a dimmed panel

@@ -26,6 +26,7 @@ class CurveSampleChart;
 class VkbState;
 class ListState;
 class PinyinState;
+class PdfWriterState;
 
 /**
  * The single object behind the exported View_* functions. Each export logs one
@@ -379,6 +380,7 @@ private:
     QHash<unsigned, QQuickItem*> m_idHash;
     std::unique_ptr<VkbState> m_vkb;
     std::unique_ptr<ListState> m_list; // after m_vkb: it refers to it
+    std::unique_ptr<PdfWriterState> m_pdfWriters;
 };
 
 #endif // VIEWMANAGE_H

@@ -62,6 +62,7 @@ int ViewManage::View_CreateCurveSample(const View_CurveSample* rec, unsigned int
         y->setLimit(limits);
     y->setSubTickCount(qBound(0, rec->yAxis.subTickCount, 100));
     chart->yAxis()->setRange(0, y->tickCount());
+    chart->axisRect()->setDoubleScale(rec->doubleScale != 0);
     // one graph per channel
     const U32 channels = rec->channels ? qMin(rec->channelCount, CurveSetup::kMaxChannels) : 0;
     for (U32 c = 0; c < channels; ++c)

@@ -10,6 +10,7 @@
 #include "views/qmlwindowmanage.h"
 #include "views/widgetpropertymanage.h"
 #include "xcomponents/qquick/xbasecontrol.h"
+#include "xcomponents/qquick/xgroup.h"
 #include "xcomponents/qquick/xlumodialog.h"
 #include "xcomponents/qquick/xwindow.h"
 
@@ -58,6 +59,14 @@ bool takesSlashHide(QQuickItem* item)
 int ViewManage::View_DeleteWidgets(const std::list<unsigned int>& ids)
 {
     for (unsigned id : ids) {
+        // a group goes with its members
+        QQuickItem* item = m_lifeCycle->findItemMaybeInvisible(id);
+        if (item && item->property("isGroup").toBool()) {
+            for (unsigned member : m_lifeCycle->membersOf(item)) {
+                m_lifeCycle->destroyItem(member);
+                m_idHash.remove(member);
+            }
+        }
         if (m_lifeCycle->destroyItem(id)) {
             m_idHash.remove(id);
         }
@@ -264,6 +273,9 @@ int ViewManage::View_SetWidgetParent(unsigned int id, unsigned int parentId)
         }
     }
     if (!VM_CHECK(nullptr != pParent))
+        return -1;
+    // a group never goes into itself or into one of its own members
+    if (QQuickItem* moving = m_lifeCycle->findItemMaybeInvisible(id); moving && XGroup::holds(moving, pParent))
         return -1;
     QQuickItem* item = m_lifeCycle->showItem(id, pParent);
     if (!item)

@@ -1,13 +1,25 @@
-// Widget groups (not built yet: their creators create nothing and return -1, the
-// other calls return what they return for an unknown id) and the pie chart, which
-// this panel shows as a placeholder.
+// Widget groups and the pie chart, which this panel shows as a placeholder.
 #include "views/viewmanage.h"
 
-int ViewManage::View_CreateGroup(const View_Group*, unsigned int)
+#include "platform/guiqtadaptcore.h"
+#include "xcomponents/qquick/xgroup.h"
+
+using GuiQtAdapt::Core;
+
+int ViewManage::View_CreateGroup(const View_Group* rec, unsigned int windowId)
 {
-    return -1;
+    QQuickItem* window = creationParent(rec, windowId);
+    if (!window)
+        return -1;
+    auto* group = new XGroup(window);
+    // the frame is drawn in a unit box stretched over the group
+    group->setFrame(Core::toQBrush(rec->background, QRectF(0, 0, 1, 1)), Core::toQPen(rec->border));
+    group->setClipMembers(rec->clip != 0);
+    placeWidget(group, rec, windowId);
+    return 0;
 }
 
+// Reserved: a bar group is made as a group with View_CreateGroup and bars put into it.
 int ViewManage::View_CreateGroupBar()
 {
     return -1;

@@ -1,9 +1,21 @@
-// Images: not built yet. Every call is accepted and changes nothing: the
-// creators create nothing and return -1 (as for an unknown window); the other
-// calls return what they return for an unknown id.
+// Images: a project picture in a box, through the picture cache.
 #include "views/viewmanage.h"
 
-int ViewManage::View_CreateImage(const View_Image*, unsigned int)
+#include "platform/guiqtadaptcore.h"
+#include "xcomponents/qquick/picturecachemanage.h"
+#include "xcomponents/qquick/xshapeimage.h"
+
+using GuiQtAdapt::Core;
+
+int ViewManage::View_CreateImage(const View_Image* rec, unsigned int windowId)
 {
-    return -1;
+    QQuickItem* window = creationParent(rec, windowId);
+    if (!window)
+        return -1;
+    auto* image = new XShapeImage(window);
+    image->setFillMode(int(rec->fillMode)); // unknown modes stretch
+    placeWidget(image, rec, windowId);
+    // a path naming no picture shows nothing; the widget is made all the same
+    image->setSource(PictureCacheManage::getInstance()->getUrl(Core::fromUtf8(rec->path)));
+    return 0;
 }

@@ -5,6 +5,9 @@
 #include "entryscreen.h"
 #include "recipescreen.h"
 #include "menuscreen.h"
+#include "operatortouch.h"
+#include "manualscreen.h"
+#include "processscreen.h"
 #include "trendscreen.h"
 
 #include <csignal>
@@ -33,6 +36,14 @@ bool g_entryDone = false;
 const unsigned kRecipes = (kDesk << 16) | 5; // the recipe screen (recipescreen.cpp)
 const unsigned kTrend = (kDesk << 16) | 6; // the trend screen (trendscreen.cpp)
 const int kTrendFrom = 240; // its script: a step every 300 ms from 24 s
+const unsigned kProcess = (kDesk << 16) | 7; // the process screen (processscreen.cpp)
+const int kProcessFrom = 298; // its script: a step every 300 ms from 29.8 s
+const unsigned kManual = (kDesk << 16) | 8; // the manual screen (manualscreen.cpp)
+const int kManualFrom = 340; // its script: a step every 300 ms from 34 s
+int g_processStep = 0;
+bool g_processDone = false;
+int g_manualStep = 0;
+bool g_manualDone = false;
 int g_trendStep = 0;
 bool g_trendDone = false;
 int g_recipeStep = 0;
@@ -90,13 +101,32 @@ void raiseAlarm(int n)
 {
     static const char* const severities[] = { "Low", "Medium", "High" };
     static const char* const texts[] = { "Filler nozzle 3 pressure low", "Capper torque above limit",
-        "Conveyor 2 stopped", "Labeller out of labels", "Tank 1 level high" };
+        "Conveyor 2 stopped", "Labeller out of labels", "Tank 1 level high", "二号输送带停止" };
     char time[32];
     std::snprintf(time, sizeof(time), "2026-11-23 14:%02d:%02d", 5 + n / 6, (n * 10) % 60);
-    g_alarms.push_back(Alarm { time, severities[(n * 7) % 3], texts[n % 5] });
+    g_alarms.push_back(Alarm { time, severities[(n * 7) % 3], texts[n % 6] });
     if (g_alarms.size() > 50)
         g_alarms.erase(g_alarms.begin());
     showAlarms();
+}
+
+/** "Export alarms": the alarm list as a PDF table on the USB stick, written by the library; then the
+ *  file dialog opens there for the operator to see it. */
+void exportAlarms()
+{
+    const std::string path = std::string("demo-project/") + getStorePath(STORE_USB1) + "alarms.pdf";
+    const unsigned kWriter = 1;
+    if (View_CreatePdfWriter(kWriter, path.c_str()) != 0) {
+        std::printf("demo: cannot write %s\n", path.c_str());
+        return;
+    }
+    std::vector<std::vector<std::string>> rows;
+    for (const Alarm& a : g_alarms)
+        rows.push_back({ a.time, a.severity, a.text });
+    View_Write2Pdf(kWriter, { "Time", "Severity", "Alarm" }, rows, false);
+    View_ClosePdfWriter(kWriter);
+    std::printf("demo: %zu alarms exported to %s\n", rows.size(), path.c_str());
+    View_PopupFileDialog(g_current, "disk/usb1/*.pdf");
 }
 
 Font font(int px, unsigned color, int weight = 400)
@@ -264,6 +294,10 @@ void showWindow(unsigned windowId)
         RecipeScreen::build(kRecipes);
     if (windowId == kTrend)
         TrendScreen::build(kTrend);
+    if (windowId == kProcess)
+        ProcessScreen::build(kProcess);
+    if (windowId == kManual)
+        ManualScreen::build(kManual);
     if (windowId == kWindow1)
         buildWindow1();
     if (windowId == kWindow2) {
@@ -348,7 +382,7 @@ ErrRet onEvent(unsigned id, int code, void* data)
         } else if (code == EVT_SCREENSHOT) {
             auto* s = static_cast<View_EvtScreenShot*>(data);
             std::printf(" result %d file %s", s->result, s->path ? s->path : "");
-        } else if (code == EVT_VKB_ENTER || code == EVT_DATETIME_OK) {
+        } else if (code == EVT_VKB_ENTER || code == EVT_DATETIME_OK || code == EVT_FILE_DIALOG) {
             std::printf(" text \"%s\"", static_cast<const char*>(data));
         } else if (code == EVT_PINYIN_SELECT) {
             std::printf(" index %d", *static_cast<int*>(data));
@@ -357,7 +391,8 @@ ErrRet onEvent(unsigned id, int code, void* data)
     std::printf("\n");
     std::fflush(stdout);
     if (EntryScreen::onEvent(id, code, data) || RecipeScreen::onEvent(id, code, data)
-        || TrendScreen::onEvent(id, code, data))
+        || TrendScreen::onEvent(id, code, data) || ProcessScreen::onEvent(id, code, data)
+        || ManualScreen::onEvent(id, code, data))
         return 0;
     if (MenuScreen::onEvent(id, code, data))
         return 0;
@@ -392,6 +427,8 @@ int onDeviceInit(unsigned deviceNo, const char*, const char*, const unsigned* wo
     std::printf(
         "demo: device %u initialising, option words %u,%u,%u\n", deviceNo, words[0], words[1], words[2]);
     View_CreateDesktop(Size { 1024, 600 }, kDesk);
+    if (!ManualScreen::writeManual()) // the line's manual, read on the manual screen
+        std::printf("demo: cannot write the manual\n");
     showWindow(kWindow1);
     return 0;
 }
@@ -419,6 +456,8 @@ void every100ms(int)
     if (g_ticks100 == 1)
         TrendScreen::start();
     TrendScreen::sample(); // the history grows from the start, the chart shows it once built
+    if (g_current == kProcess)
+        ProcessScreen::cycle();
     // the demo's script, one step every half second or so
     switch (g_ticks100) {
     case 10:
@@ -497,6 +536,20 @@ void every100ms(int)
             showWindow(kTrend);
         if (!g_trendDone && g_ticks100 >= kTrendFrom && (g_ticks100 - kTrendFrom) % 3 == 0)
             g_trendDone = !TrendScreen::scriptStep(g_trendStep++, screenshot);
+        if (g_ticks100 == kProcessFrom - 5)
+            showWindow(kProcess);
+        if (!g_processDone && g_ticks100 >= kProcessFrom && (g_ticks100 - kProcessFrom) % 3 == 0)
+            g_processDone = !ProcessScreen::scriptStep(g_processStep++, screenshot);
+        if (g_ticks100 == kProcessFrom + 26) // the operator exports the alarms: the file dialog shows the file
+            exportAlarms();
+        if (g_ticks100 == kProcessFrom + 30)
+            screenshot("29-alarms-exported");
+        if (g_ticks100 == kProcessFrom + 32) // and chooses it
+            OperatorTouch::touchItem("fileRow0");
+        if (g_ticks100 == kManualFrom - 4)
+            showWindow(kManual);
+        if (!g_manualDone && g_ticks100 >= kManualFrom && (g_ticks100 - kManualFrom) % 3 == 0)
+            g_manualDone = !ManualScreen::scriptStep(g_manualStep++, screenshot);
         break;
     }
     if (g_settings.quitAfterMs > 0 && g_ticks100 * 100 >= g_settings.quitAfterMs)

@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QWheelEvent>
 
 namespace OperatorTouch {
 
@@ -94,6 +95,22 @@ bool dragWidget(unsigned widgetId, double x0, double y0, double x1, double y1)
     for (int step = 1; step <= 10; ++step)
         send(QEvent::MouseMove, from + (to - from) * step / 10.0, Qt::NoButton, Qt::LeftButton);
     send(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
+    return true;
+}
+
+bool wheelWidget(unsigned widgetId, double x, double y, int notches)
+{
+    QQuickWindow* window = panelWindow();
+    QQuickItem* item = widget(window, widgetId);
+    if (!item)
+        return false;
+    const QPointF at = item->mapToScene(QPointF(x, y));
+    const int sign = notches < 0 ? -1 : 1;
+    for (int n = 0; n < notches * sign; ++n) { // one event per notch, as a real wheel sends them
+        QWheelEvent event(at, window->mapToGlobal(at.toPoint()), QPoint(), QPoint(0, 120 * sign), Qt::NoButton,
+            Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(window, &event);
+    }
     return true;
 }
 

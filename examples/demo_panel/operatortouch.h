@@ -16,6 +16,10 @@ bool touchWidget(unsigned widgetId, double x, double y);
 /** Drags a finger across widget \a widgetId from (\a x0, \a y0) to (\a x1, \a y1) in ten steps. */
 bool dragWidget(unsigned widgetId, double x0, double y0, double x1, double y1);
 
+/** Turns a mouse wheel by \a notches (positive: away from the operator, zoom in) over
+ *  the point (\a x, \a y) of widget \a widgetId; false without it. */
+bool wheelWidget(unsigned widgetId, double x, double y, int notches);
+
 } // namespace OperatorTouch
 
 #endif

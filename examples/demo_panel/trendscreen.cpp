@@ -222,6 +222,7 @@ void build(unsigned windowId)
     rec.cursorPen = Pen { 0xFF6A4FB3u, 1, PEN_DASH };
     rec.settingButton = 1;
     rec.restoreButton = 1;
+    rec.doubleScale = 1; // the scale on both sides: the panel is read from either end of the line
     View_CreateCurveSample(&rec, windowId);
     double limits[2] = { 0, 100 };
     View_CurveSampleUpdateDataLimit(kChart, 11, 0, limits); // plain numbers, no decimals
@@ -331,7 +332,8 @@ bool scriptStep(int n, void (*shot)(const char* name))
         return true;
     case 11:
         View_CurveSampleResumeRealMode(kChart);
-        View_CurveSampleScale(kChart, 200, 0); // the last half minute, larger
+        // three wheel notches over the newest samples: the chart zooms in about the pointer
+        OperatorTouch::wheelWidget(kChart, 600, 200, 3);
         return true;
     case 12: // a tap a little left of the middle: the cursor and its window move there
         OperatorTouch::touchWidget(kChart, 250, 300);

@@ -91,7 +91,7 @@ enum ViewEvent : int {
     EVT_USB_PKG_BROWSE = 0x903, /**< browse asked for; U32 the dialog's selection word */
 
     /* PDF */
-    EVT_PDF_SOURCE = 0xA01 /**< PDF view source changed; View_EvtPdfSource */
+    EVT_PDF_SOURCE = 0xA01 /**< PDF view source changed (its file opened or failed); View_EvtPdfSource */
 };
 
 /** EVT_PRESS: where the panel was pressed. */
@@ -237,8 +237,12 @@ struct View_EvtUsbPackage {
 
 /** EVT_PDF_SOURCE. */
 struct View_EvtPdfSource {
-    int value; /**< the value the view reports with the change */
-    int flagCleared; /**< 1 when the view's flag is false, 0 when it is true */
+    int value; /**< the view's page count once its file opened (0 for a view emptied by a null or "" path);
+                    when the file did not open, the negative load error: -1 unknown, -2 data not available,
+                    -3 file not found, -4 not a PDF (corrupt), -5 password needed, -6 unsupported
+                    security */
+    int flagCleared; /**< 1 when the view's error flag is false (the file opened, or the view was emptied),
+                          0 when it is true (the view shows nothing) */
 };
 
 #endif /* QGUI_EVENTS_H */

@@ -140,6 +140,7 @@ struct View_CurveSample {
     View_CurveCursorStyle cursor; /**< the cursor window, hidden until enabled */
     U8 settingButton; /**< non-zero: the setting button (search dialog) is shown */
     U8 restoreButton; /**< non-zero: the restore button is shown */
+    U8 doubleScale; /**< non-zero: the y scale is repeated on the right of the plot */
 };
 
 /** XY curve (View_CreateCurveXy). */

@@ -59,8 +59,9 @@ struct View_Image {
     U32 header; /**< opacity word */
     Rect rect; /**< image box */
     U32 id; /**< widget id */
-    const char* path; /**< image path of the project; null or "" shows nothing */
-    U32 fillMode; /**< ImageFillMode */
+    const char* path; /**< picture (PNG, JPEG, BMP, SVG): relative to the project's image folder, or absolute;
+                           null, "" or a missing file shows nothing */
+    U32 fillMode; /**< ImageFillMode; unknown values stretch */
 };
 
 /* ---- graphic shapes ---- */
@@ -101,8 +102,8 @@ struct View_GraphGrid {
     U32 id; /**< widget id */
     Pen pen; /**< grid and outer lines */
     Brush brush; /**< background fill */
-    int rows; /**< number of rows, at least 1 */
-    int columns; /**< number of columns, at least 1 */
+    int rows; /**< number of rows, 1..1000 (values outside are clamped) */
+    int columns; /**< number of columns, 1..1000 (values outside are clamped) */
 };
 
 /** Pie sector (View_CreateGraphPie) of the ellipse inscribed in `rect`. */
@@ -144,7 +145,7 @@ struct View_GraphRect {
     U32 id; /**< widget id */
     Pen pen; /**< outline */
     Brush brush; /**< fill */
-    int radius; /**< corner radius in pixels, 0 for square corners */
+    int radius; /**< corner radius in pixels, 0 for square corners; at most half the shorter side */
 };
 
 /** Where a straight scale puts its ticks and labels. */
@@ -162,8 +163,8 @@ struct View_GraphScale {
     U32 id; /**< widget id */
     Pen pen; /**< base line and ticks */
     U32 direction; /**< ScaleDirection */
-    int majorCount; /**< major divisions (labels at both ends and between), at least 1 */
-    int minorCount; /**< minor ticks between two major ticks */
+    int majorCount; /**< major divisions (labels at both ends and between), 1..1000 */
+    int minorCount; /**< minor ticks between two major ticks, 0..100 */
     int majorLength; /**< major tick length, pixels */
     int minorLength; /**< minor tick length, pixels */
     double minimum; /**< value at the start (left or bottom) */
@@ -171,6 +172,10 @@ struct View_GraphScale {
     U8 decimals; /**< decimals of the labels */
     U8 showLabels; /**< non-zero: labels drawn */
     const Font* font; /**< label font and colour */
+    const char* timeFormat; /**< null or "": number labels; otherwise a time scale: minimum and maximum are
+                                 seconds since 1970-01-01 UTC, the major ticks fall on whole clock steps
+                                 (1 s ... 12 h, days; majorCount is the most divisions) and are labelled in
+                                 this pattern ("yyyy", "MM", "dd", "hh", "mm", "ss", "zzz" replaced) */
 };
 
 /* ---- value displays ---- */
@@ -189,17 +194,18 @@ struct View_Bar {
     Rect rect; /**< widget box */
     U32 id; /**< widget id */
     U32 direction; /**< BarDirection */
-    U8 barCount; /**< number of bars (variables) side by side, at least 1 */
-    U8 origin; /**< percent of the range where the bars start (View_BarUpdateOrigin changes it) */
+    U8 barCount; /**< number of bars (variables) side by side; 0 counts as 1 */
+    U8 origin; /**< percent of the range where the bars start, 0..100 (View_BarUpdateOrigin changes it);
+                    values below it grow towards the start */
     U8 showScale; /**< non-zero: a scale is drawn beside the bars */
     U8 showTarget; /**< non-zero: the target band (View_BarUpdateTarget) is drawn */
     Brush background; /**< fill behind the bars */
     Pen border; /**< frame of the bar area */
     Pen scalePen; /**< scale line and ticks */
     Pen targetPen; /**< target band outline */
-    int majorCount; /**< major scale divisions */
+    int majorCount; /**< major scale divisions (labels at both ends and between), at least 1 */
     int minorCount; /**< minor ticks between two major ticks */
-    const Font* font; /**< scale label font (labels come with View_BarUpdateScaleLabels) */
+    const Font* font; /**< scale label font and colour (labels: the numbers 0..100 until View_BarUpdateScaleLabels) */
 };
 
 /** Dial meter (View_CreateMeter); the value comes with View_MeterUpdateVal. */
@@ -208,16 +214,17 @@ struct View_Meter {
     Rect rect; /**< widget box */
     U32 id; /**< widget id */
     int startAngle; /**< angle of the minimum, degrees */
-    int spanAngle; /**< sweep from minimum to maximum, degrees (negative: clockwise) */
+    int spanAngle; /**< sweep from minimum to maximum, degrees (negative: clockwise), clamped to -360..360 */
     int minimum; /**< value at the start angle */
     int maximum; /**< value at the end angle */
-    const char* dial; /**< dial image path; null or "" draws `dialBrush` */
+    const char* dial; /**< dial picture of the project, drawn in the largest circle of the box; null or ""
+                           draws `dialBrush` */
     Brush dialBrush; /**< dial fill without an image */
     Pen scalePen; /**< scale arc and ticks */
-    int majorCount; /**< major divisions */
-    int minorCount; /**< minor ticks between two major ticks */
-    const Font* font; /**< scale label font (labels come with View_MeterUpdateScaleLabels) */
-    Pen needlePen; /**< needle */
+    int majorCount; /**< major divisions, 1..1000 */
+    int minorCount; /**< minor ticks between two major ticks, 0..100 */
+    const Font* font; /**< scale label font and colour (labels: the range's numbers until View_MeterUpdateScaleLabels) */
+    Pen needlePen; /**< needle colour and width */
     U32 alarmColor; /**< colour word of the alarm arc (View_MeterUpdateAlarmRange) */
 };
 
@@ -230,12 +237,12 @@ struct View_Slider {
     double minimum; /**< value at the start */
     double maximum; /**< value at the end */
     double value; /**< initial handle position (View_ChangeSliderPos moves it) */
-    double step; /**< values snap to multiples of this; <= 0 is continuous */
+    double step; /**< values snap to minimum + multiples of this; <= 0 or NaN is continuous */
     Brush groove; /**< groove fill */
     const char* handle; /**< handle image path; null or "" draws `handleBrush` */
     Brush handleBrush; /**< handle fill without an image */
-    int majorCount; /**< major scale divisions, 0 for no scale */
-    const Font* font; /**< scale label font (labels come with View_ChangeSliderLabels) */
+    int majorCount; /**< major divisions of the ruler beside the groove, 0 for no ruler */
+    const Font* font; /**< ruler label font and colour (labels: numbers until View_ChangeSliderLabels) */
 };
 
 /** Shapes of the moving marks inside a pipeline. */
@@ -250,12 +257,12 @@ struct View_Pipeline {
     U32 header; /**< opacity word */
     Rect rect; /**< bounding box; the points are relative to its top-left corner */
     U32 id; /**< widget id */
-    const Point* points; /**< centre line of the pipe */
-    U32 pointCount; /**< number of points, at least 2 */
-    int width; /**< pipe width, pixels */
+    const Point* points; /**< centre line of the pipe, bends included */
+    U32 pointCount; /**< number of points; fewer than 2 make an empty pipe, at most 100,000 are taken */
+    int width; /**< pipe width, pixels (the flow marks are 0.6 of it wide) */
     Brush pipe; /**< pipe fill */
     Pen border; /**< pipe outline */
-    U32 flowShape; /**< PipelineFlowShape */
+    U32 flowShape; /**< PipelineFlowShape; unknown values draw blocks */
     U32 flowColor; /**< colour word of the flow marks (View_PipelineUpdateFlowShapeColor) */
     U32 flowrate; /**< speed of the flow in pixels per second, 0 still (View_PipelineUpdateFlowrate) */
     U8 reverse; /**< non-zero: the flow runs from the last point to the first (View_PipelineUpdateDirect) */
@@ -268,7 +275,7 @@ struct View_Group {
     U32 header; /**< opacity word */
     Rect rect; /**< group box; children are placed relative to its top-left corner */
     U32 id; /**< widget id */
-    U8 clip; /**< non-zero: children are cut at the box */
+    U8 clip; /**< non-zero: members are cut at the box */
     Brush background; /**< fill, BRUSH_NONE for none */
     Pen border; /**< outline */
 };
@@ -276,9 +283,9 @@ struct View_Group {
 /** Group of input/output rows (View_CreateGroupIOList); handled as a group. */
 struct View_GroupIOList {
     View_Group group; /**< the group part; starts with the common header */
-    int rowHeight; /**< height of one row, pixels */
-    int rowSpacing; /**< gap between rows, pixels */
-    U32 rowCount; /**< number of rows */
+    int rowHeight; /**< height of one row, pixels (the designer's layout; the group places nothing itself) */
+    int rowSpacing; /**< gap between rows, pixels (as rowHeight) */
+    U32 rowCount; /**< number of rows (as rowHeight) */
 };
 
 /** Where a chart's legend goes. */

@@ -13,8 +13,10 @@
 
 /** Page display of the PDF view (View_PdfSetDisplayMode). */
 enum PdfDisplayMode : int {
-    PDF_SINGLE_PAGE = 0, /**< one page at a time */
-    PDF_CONTINUOUS = 1 /**< pages one below the other, scrolled */
+    PDF_SINGLE_PAGE = 0, /**< one page at a time, at the zoom; dragged when larger than the view */
+    PDF_CONTINUOUS = 1, /**< pages one below the other at the zoom, scrolled by dragging */
+    PDF_FIT_WIDTH = 2, /**< one page at a time, as wide as the view (the zoom is kept for later) */
+    PDF_FIT_PAGE = 3 /**< one page at a time, wholly inside the view */
 };
 
 /** PDF view (View_CreatePdf). */
@@ -22,12 +24,14 @@ struct View_Pdf {
     U32 header; /**< opacity word */
     Rect rect; /**< widget box */
     U32 id; /**< widget id */
-    const char*
-        path; /**< document path; null or "" shows an empty view (View_PdfUpdateFile loads one later) */
-    int displayMode; /**< PdfDisplayMode */
-    U32 page; /**< first page shown, counted from 0 */
-    U32 zoom; /**< zoom in percent; 0 fits the page width */
-    U8 showToolBar; /**< non-zero: page and zoom buttons are shown */
+    const char* path; /**< document path, UTF-8; null or "" shows an empty view (View_PdfUpdateFile loads
+                          one later). The file opens off the GUI thread; EVT_PDF_SOURCE reports how it went */
+    int displayMode; /**< PdfDisplayMode; other numbers show a single page */
+    U32 page; /**< first page shown, counted from 0; beyond the end, the last page */
+    U32 zoom; /**< zoom in percent (100: the page at its printed size), kept within 10..800; 0 fits the
+                   page width */
+    U8 showToolBar; /**< non-zero: a bar along the bottom with previous/next page, the page number and
+                         zoom out/in; it acts on the view only, the logic layer is not told */
 };
 
 /** Network camera (View_CreateCameraIP). */

@@ -25,7 +25,8 @@ public:
     double minimum() const { return m_minimum; }
     double maximum() const { return m_maximum; }
 
-    /** Sets the major divisions (at least 1) and the minor ticks between two major ticks (at least 0). */
+    /** Sets the major divisions (1 .. 100,000) and the minor ticks between two major ticks (0 .. 100,000);
+     *  values outside are clamped. */
     void setTickCount(int majorCount, int minorCount);
     int majorCount() const { return m_majorCount; }
     int minorCount() const { return m_minorCount; }

@@ -583,27 +583,44 @@ QGUI_EXPORT int View_PopupPKGFileExplorer(unsigned int id, int storeNo);
 
 /* ---- PDF viewer and writer, export ---- */
 
-/** Finishes and closes PDF writer `id`; 0, or -1 for an unknown writer. */
+/** Finishes and closes PDF writer `id` (a file with no table holds one blank page); 0, or -1 for a writer
+ * that is not open (never opened, or closed already). */
 QGUI_EXPORT int View_ClosePdfWriter(unsigned int id);
-/** Creates a PDF view. */
+/** Creates a PDF view (View_Pdf); its file opens off the GUI thread, then EVT_PDF_SOURCE reports the page
+ * count or the load error. 0, or -1 for a null record or an unknown window. */
 QGUI_EXPORT int View_CreatePdf(const View_Pdf* rec, unsigned int windowId);
-/** Opens PDF writer `id` on the file `path`; 0, or -1 when the file cannot be written. */
+/** Opens PDF writer `id` (the logic layer's own number) on the file `path` (UTF-8), replacing the file; a
+ * writer already open under `id` is finished first. 0, or -1 when the file cannot be written. */
 QGUI_EXPORT int View_CreatePdfWriter(unsigned int id, const char* path);
-/** Runs `work(context)` on a worker thread (a file export of the logic layer); 0 when started, -1 for an
- * empty function. */
+/**
+ * Runs `work(context)` on a worker thread of the library (a file export of the logic layer: CSV, a
+ * copy to a USB stick...), so that the GUI thread and the 10 ms cycle never wait for it. `work` must not
+ * call any View_* function (they belong to the GUI thread) and owns `context` while it runs. When it
+ * returns, the library writes "export finished" to its log on the GUI thread. 0 when started, -1 for an
+ * empty function.
+ */
 QGUI_EXPORT int View_Export2File(void* context, std::function<void(void*)> work);
-/** Sets the page display (PdfDisplayMode); 0, or -1 for an unknown id. */
+/** Sets the page display (PdfDisplayMode); 0, or -1 for an unknown id or mode (nothing changes). */
 QGUI_EXPORT int View_PdfSetDisplayMode(unsigned int id, int mode);
-/** Shows page `page` (from 0); 0, or -1 for an unknown id. */
+/** Shows page `page` (from 0) at the top of the view; 0, or -1 for an unknown id or a page the document does
+ * not have (beyond its end, or any page while no document is open): the page shown stays. */
 QGUI_EXPORT int View_PdfSwitchPage(unsigned int id, unsigned int page);
-/** Loads the document at `path`; 0, or -1 for an unknown id. */
+/** Opens the document at `path` (UTF-8) from its first page, EVT_PDF_SOURCE following; null or "" empties
+ * the view. 0, or -1 for an unknown id or a path naming no file (the document shown stays). A corrupt or
+ * password-protected file gives 0 here and a negative value in EVT_PDF_SOURCE. */
 QGUI_EXPORT int View_PdfUpdateFile(unsigned int id, const char* path);
-/** Zoom in percent, 0 fits the page width; 0, or -1 for an unknown id. */
+/** Zoom in percent (100: printed size), kept within 10..800; 0 fits the page width. Applies in the single
+ * page and continuous modes. 0, or -1 for an unknown id. */
 QGUI_EXPORT int View_PdfZoom(unsigned int id, unsigned int percent);
-/** Writes a table (heads, then rows of cells) to PDF writer `id`; `newPage` starts it on a new page. 0, or -1
- * for an unknown writer. */
+/**
+ * Writes a table to PDF writer `id`: the head row (repeated at the top of every page), then the rows of
+ * cells (UTF-8, any script; at most 200 columns and 1,000,000 rows, a cell's text cut to what its column
+ * shows). Each table starts on a new A4 page, in landscape when `landscape` is true; column widths follow
+ * the texts and fill the page; every page carries "Page n" at its foot. 0, or -1 for a writer that is not
+ * open.
+ */
 QGUI_EXPORT int View_Write2Pdf(unsigned int id, const std::vector<std::string>& heads,
-    const std::vector<std::vector<std::string>>& rows, bool newPage);
+    const std::vector<std::vector<std::string>>& rows, bool landscape);
 
 /* ---- cameras, media, remote desktop, web (placeholders where not available), audio ---- */
 

@@ -30,12 +30,13 @@
 
 namespace {
 
-// The longest stop of the 10 ms cycle accepted; the sanitizers slow every instruction two to three
-// times, and a text laid out whole took seconds.
+// The longest stop of the 10 ms cycle accepted: a text laid out whole took seconds. Two tests share
+// the two cores of the CI machine, so a stop of a scheduling slice or two is no fault; the
+// sanitizers slow every instruction two to three times.
 #if defined(__SANITIZE_ADDRESS__)
-constexpr qint64 kMaxGap = 200;
+constexpr qint64 kMaxGap = 500;
 #else
-constexpr qint64 kMaxGap = 100;
+constexpr qint64 kMaxGap = 250;
 #endif
 
 enum Kind { Text, Button, QrCode, Placeholder, Clock };

@@ -35,8 +35,8 @@ private Q_SLOTS:
     void show_from_cache_reports_an_unknown_id();
     void unknown_ids_give_their_fixed_results_data();
     void unknown_ids_give_their_fixed_results();
-    void calls_of_families_not_built_yet_return_the_documented_result_data();
-    void calls_of_families_not_built_yet_return_the_documented_result();
+    void unknown_ids_get_the_documented_result_data();
+    void unknown_ids_get_the_documented_result();
     void export_to_file_runs_on_a_worker();
     void disable_flags_data();
     void disable_flags();
@@ -200,10 +200,10 @@ void tst_Registry::unknown_ids_give_their_fixed_results_data()
     QTest::newRow("ShowWidget not from cache") << 13 << 0 << false;
 }
 
-void tst_Registry::calls_of_families_not_built_yet_return_the_documented_result_data()
+void tst_Registry::unknown_ids_get_the_documented_result_data()
 {
-    // what include/qgui/view.h documents for an unknown id: every id is unknown to a family whose
-    // widgets do not exist yet, and its creators make nothing
+    // what include/qgui/view.h documents for an unknown id, and a creator given an unknown window
+    // makes nothing
     QTest::addColumn<std::function<int()>>("call");
     QTest::addColumn<int>("expected");
     const unsigned id = 77;
@@ -230,16 +230,16 @@ void tst_Registry::calls_of_families_not_built_yet_return_the_documented_result_
         << std::function<int()>([=] { return View_ChangeInputParam(id, nullptr); }) << -1;
     QTest::newRow("ChangeListCtrlContent")
         << std::function<int()>([=] { return View_ChangeListCtrlContent(id, {}); }) << -1;
-    QTest::newRow("CreateMeter") << std::function<int()>([this] {
+    QTest::newRow("CreateMeter in no window") << std::function<int()>([] {
         View_Meter rec {};
         rec.id = 77;
-        return View_CreateMeter(&rec, A);
+        return View_CreateMeter(&rec, PanelFixture::wid(9, 9));
     }) << -1;
     QTest::newRow("Export2File without work")
         << std::function<int()>([] { return View_Export2File(nullptr, {}); }) << -1;
 }
 
-void tst_Registry::calls_of_families_not_built_yet_return_the_documented_result()
+void tst_Registry::unknown_ids_get_the_documented_result()
 {
     QFETCH(std::function<int()>, call);
     QFETCH(int, expected);

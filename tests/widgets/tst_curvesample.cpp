@@ -46,6 +46,7 @@ private Q_SLOTS:
     void scale_percent();
     void hide_channel_results();
     void y_limits_and_labels_reach_the_axis();
+    void double_scale_repeats_the_y_axis_on_the_right();
     void bad_values_leave_gaps();
     void press_release_and_double_click_events();
     void drags_ask_for_pages_and_pages_come_in();
@@ -74,6 +75,7 @@ private:
     Font m_font { nullptr, 12, 400, 0, 0, 0, 0, 0xFF202020u, 0 };
     View_CurveChannel m_channels[3] {};
     const unsigned A = PanelFixture::wid(1, 1);
+    U8 m_doubleScale = 0;
 };
 
 int tst_CurveSample::create(unsigned id, int mode, U32 channels)
@@ -110,6 +112,7 @@ int tst_CurveSample::create(unsigned id, int mode, U32 channels)
     rec.cursorPen = Pen { 0xFF808080u, 1, PEN_SOLID };
     rec.settingButton = 1;
     rec.restoreButton = 1;
+    rec.doubleScale = m_doubleScale;
     return View_CreateCurveSample(&rec, A);
 }
 
@@ -307,6 +310,28 @@ void tst_CurveSample::y_limits_and_labels_reach_the_axis()
     QCOMPARE(View_CurveSampleUpdateDataLabel(14, { "off", "\xff\xfe on" }), 0);
     QCOMPARE(c->yTicker()->labelFor(0), QStringLiteral("off"));
     QCOMPARE(c->yTicker()->labelFor(2), QString());
+}
+
+void tst_CurveSample::double_scale_repeats_the_y_axis_on_the_right()
+{
+    QCOMPARE(create(15), 0);
+    m_doubleScale = 1;
+    QCOMPARE(create(16), 0);
+    m_doubleScale = 0;
+    CurveSampleChart* single = chart(15);
+    CurveSampleChart* both = chart(16);
+    QVERIFY(!single->axisRect()->axis(QCPAxis::atRight)->visible());
+    QCPAxis* right = both->axisRect()->axis(QCPAxis::atRight);
+    QVERIFY(right->visible());
+    // limits and zoom given to the left axis reach the right one
+    double limits[2] = { -50, 50 };
+    QCOMPARE(View_CurveSampleUpdateDataLimit(16, 3, 2, limits), 0);
+    both->yAxis()->setRange(1, 3);
+    QCOMPARE(right->range(), both->yAxis()->range());
+    QCOMPARE(right->ticker(), both->yAxis()->ticker());
+    // the labels on the right take room: the plot area is narrower
+    m_panel.settle();
+    QVERIFY(both->plotArea().width() < single->plotArea().width() - 10);
 }
 
 void tst_CurveSample::bad_values_leave_gaps()

@@ -11,11 +11,14 @@
 #include "views/viewmanage.h"
 #include "views/virtualkeyboardmanager.h"
 #include "xcomponents/qquick/xalarmtableviewcontrol.h"
+#include "xcomponents/qquick/xheadermodel.h"
 #include "xcomponents/qquick/xquickheadermodel.h"
 #include "xcomponents/qquick/xtablemodel.h"
 #include "xcomponents/qquick/xtableviewcontrol.h"
 
 #include <QImage>
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QQuickItem>
 #include <QTemporaryDir>
 #include <QSignalSpy>
@@ -41,6 +44,9 @@ private Q_SLOTS:
     void change_calls_answer_unknown_ids_and_unsupported_calls();
     void hidden_columns_and_rows_without_text();
     void model_announces_only_the_changed_cells();
+    void list_header_model_lays_out_its_columns_data();
+    void list_header_model_lays_out_its_columns();
+    void list_header_drawn_from_qml();
     void paging_bar_reports_and_shows_the_logic_layers_numbers();
     void cells_are_edited_through_the_keyboard_in_edit_mode();
     void data_types_choose_keyboard_and_validator_data();
@@ -398,6 +404,91 @@ void tst_Tables::model_announces_only_the_changed_cells()
     QVERIFY(model.setData(model.index(110, 1), "new"));
     QCOMPARE(model.actualRowCount(), 111);
     QVERIFY(!model.setData(model.index(130, 1), "beyond"));
+}
+
+void tst_Tables::list_header_model_lays_out_its_columns_data()
+{
+    QTest::addColumn<QStringList>("titles");
+    QTest::addColumn<QVector<int>>("widths");
+    QTest::addColumn<QVector<int>>("lefts"); // left edges, then the total width
+    QTest::addColumn<QVector<int>>("hits"); // x, column pairs
+
+    QTest::newRow("widths given") << QStringList { "Tag", "Value", "Unit" } << QVector<int> { 120, 80, 40 }
+                                  << QVector<int> { 0, 120, 200, 240 } << QVector<int> { 0, 0, 119, 0, 120, 1, 239, 2, 240, -1, -1, -1 };
+    QTest::newRow("default for the rest") << QStringList { "A", "B", "C" } << QVector<int> { 50 }
+                                          << QVector<int> { 0, 50, 150, 250 } << QVector<int> { 149, 1, 150, 2 };
+    QTest::newRow("negative width is 0") << QStringList { "A", "B" } << QVector<int> { -30, 10 }
+                                         << QVector<int> { 0, 0, 10 } << QVector<int> { 0, 1, 9, 1, 10, -1 };
+    QTest::newRow("more widths than titles") << QStringList { "A" } << QVector<int> { 10, 20, 30 }
+                                             << QVector<int> { 0, 10 } << QVector<int> { 10, -1 };
+    QTest::newRow("no columns") << QStringList {} << QVector<int> { 10 } << QVector<int> { 0 } << QVector<int> { 0, -1 };
+    QTest::newRow("huge widths stay in range") << QStringList { "A", "B", "C" }
+                                               << QVector<int> { INT_MAX, INT_MAX, 1 }
+                                               << QVector<int> { 0, INT_MAX, INT_MAX, INT_MAX } << QVector<int> { 5, 0 };
+}
+
+void tst_Tables::list_header_model_lays_out_its_columns()
+{
+    QFETCH(QStringList, titles);
+    QFETCH(QVector<int>, widths);
+    QFETCH(QVector<int>, lefts);
+    QFETCH(QVector<int>, hits);
+    XHeaderModel model;
+    model.setTitles(titles);
+    model.setWidths(widths);
+    QCOMPARE(model.rowCount(), titles.size());
+    for (int c = 0; c <= titles.size(); ++c)
+        QCOMPARE(model.left(c), lefts.at(c));
+    QCOMPARE(model.totalWidth(), lefts.last());
+    for (int i = 0; i + 1 < hits.size(); i += 2)
+        QCOMPARE(model.columnAt(hits.at(i)), hits.at(i + 1));
+    for (int c = 0; c < titles.size(); ++c) {
+        QCOMPARE(model.data(model.index(c), Qt::DisplayRole).toString(), titles.at(c));
+        QCOMPARE(model.data(model.index(c), XHeaderModel::LeftRole).toInt(), lefts.at(c));
+    }
+    QVERIFY(!model.data(model.index(titles.size()), Qt::DisplayRole).isValid());
+}
+
+void tst_Tables::list_header_drawn_from_qml()
+{
+    // a designer's header: a Repeater over the model places one title per column
+    QQmlComponent c(m_panel.view()->engine());
+    c.setData("import QtQuick 2.15\nimport QQuickHalvex 1.0\n"
+              "Item { width: 400; height: 30; property alias header: h\n"
+              "  XHeaderModel { id: h; titles: ['Tag', 'Value', 'Unit']; widths: [150, 90]; defaultWidth: 60 }\n"
+              "  Repeater { model: h; Text { objectName: 'title' + index; x: columnLeft; width: columnWidth;"
+              "    text: display } } }",
+        QUrl());
+    std::unique_ptr<QObject> root(c.create());
+    QVERIFY2(root, qPrintable(c.errorString()));
+    auto* model = root->property("header").value<XHeaderModel*>();
+    QVERIFY(model);
+    auto* header = qobject_cast<QQuickItem*>(root.get());
+    auto title = [header](int c) { return TestUtil::findItem(header, QStringLiteral("title%1").arg(c)); };
+    QVERIFY(title(2));
+    QCOMPARE(title(1)->x(), 150.0);
+    QCOMPARE(title(2)->x(), 240.0);
+    QCOMPARE(title(2)->width(), 60.0);
+    QCOMPARE(model->totalWidth(), 300);
+    // a wider first column moves the others; a renamed title changes only its own row
+    QSignalSpy changed(model, &QAbstractItemModel::dataChanged);
+    QSignalSpy reset(model, &QAbstractItemModel::modelReset);
+    model->setWidths({ 200, 90 });
+    QCOMPARE(title(1)->x(), 200.0);
+    QCOMPARE(title(2)->x(), 290.0);
+    model->setDefaultWidth(100);
+    QCOMPARE(title(2)->width(), 100.0);
+    QCOMPARE(changed.count(), 2);
+    QCOMPARE(changed.last().at(0).toModelIndex(), model->index(2));
+    model->setTitles({ "Tag", "Measured", "Unit" });
+    QCOMPARE(title(1)->property("text").toString(), QStringLiteral("Measured"));
+    QCOMPARE(changed.last().at(0).toModelIndex(), model->index(1));
+    QCOMPARE(changed.last().at(1).toModelIndex(), model->index(1));
+    QCOMPARE(reset.count(), 0);
+    model->setTitles({ "Only" });
+    QCOMPARE(reset.count(), 1);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!title(1));
 }
 
 void tst_Tables::bad_pages_are_cut_not_trusted()

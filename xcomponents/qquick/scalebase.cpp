@@ -16,8 +16,8 @@ void ScaleBase::setRange(double minimum, double maximum)
 
 void ScaleBase::setTickCount(int majorCount, int minorCount)
 {
-    m_majorCount = std::max(1, majorCount);
-    m_minorCount = std::max(0, minorCount);
+    m_majorCount = std::clamp(majorCount, 1, 100000);
+    m_minorCount = std::clamp(minorCount, 0, 100000);
 }
 
 std::vector<double> ScaleBase::majorTicks() const
