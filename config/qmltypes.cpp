@@ -24,6 +24,7 @@
 #include "xcomponents/qquick/xquickfiledialog.h"
 #include "xcomponents/qquick/xpdfview.h"
 #include "xcomponents/qquick/xshapearc.h"
+#include "xcomponents/qquick/xusbpackagedialog.h"
 #include "xcomponents/qquick/xusbselectfiledata.h"
 #include "xcomponents/qquick/xshapeimage.h"
 #include "xcomponents/qquick/xshapescale.h"
@@ -109,6 +110,7 @@ void registerQmlTypes()
     qmlRegisterType<XQuickFileDialog>(uri, 1, 0, "XQuickFileDialog");
     qmlRegisterType<XUsbSelectFileData>(uri, 1, 0, "XUsbSelectFileData");
     qmlRegisterType<XPdfView>(uri, 1, 0, "XPdfView");
+    qmlRegisterType<XUsbPackageDialog>(uri, 1, 0, "XUsbPackageDialog");
     qmlRegisterType<XShapeImage>(uri, 1, 0, "XShapeImage");
     qmlRegisterType<XShapeItem>(uri, 1, 0, "XShapeItem");
     qmlRegisterType<XShapeScale>(uri, 1, 0, "XShapeScale");

@@ -1,4 +1,3 @@
-#include "views/pdfwriterstate.h"
 #include "views/viewmanage.h"
 
 #include "config/globalconfig.h"
@@ -6,9 +5,11 @@
 #include "views/curvesamplecharttimemodecontroller.h"
 #include "views/lifecyclemanager.h"
 #include "views/liststate.h"
+#include "views/pdfwriterstate.h"
 #include "views/presswatcher.h"
 #include "views/pinyinstate.h"
 #include "views/qmlwindowmanage.h"
+#include "views/usbpackagestate.h"
 #include "views/virtualkeyboardmanager.h"
 #include "views/vkbstate.h"
 #include "views/widgetpropertymanage.h"
@@ -44,6 +45,7 @@ ViewManage::ViewManage()
     , m_pinyin(std::make_unique<PinyinState>())
     , m_list(std::make_unique<ListState>(m_vkb.get()))
     , m_pdfWriters(std::make_unique<PdfWriterState>())
+    , m_usbPackages(std::make_unique<UsbPackageState>(m_windowManage.get()))
 {
     XQmlComponentManage::getInstance()->setWindowManage(m_windowManage.get());
     // the keyboard's layer takes the panel's dimming colour and stays usable on a dimmed panel
@@ -67,6 +69,7 @@ ViewManage::~ViewManage()
     m_list.reset();
     m_vkb.reset();
     m_pinyin.reset(); // its popup lives on an overlay of the window manager
+    m_usbPackages.reset(); // and so do the package dialogs
     m_windowManage.reset();
     XQmlComponentManage::getInstance()->setWindowManage(nullptr);
     m_lifeCycle.reset();

@@ -27,6 +27,7 @@ class VkbState;
 class ListState;
 class PinyinState;
 class PdfWriterState;
+class UsbPackageState;
 
 /**
  * The single object behind the exported View_* functions. Each export logs one
@@ -66,6 +67,8 @@ public:
     VkbState* vkbState() const { return m_vkb.get(); }
     /** The Pinyin candidate bar's popup (views/viewmanage_vkb.cpp). */
     PinyinState* pinyinState() const { return m_pinyin.get(); }
+    /** The package dialogs up and the storage watcher. */
+    UsbPackageState* usbPackages() const { return m_usbPackages.get(); }
 
     /** Registers a created item: clears its object parent and records it under \a id. */
     void appendItem(unsigned id, QQuickItem* item);
@@ -381,6 +384,7 @@ private:
     std::unique_ptr<VkbState> m_vkb;
     std::unique_ptr<ListState> m_list; // after m_vkb: it refers to it
     std::unique_ptr<PdfWriterState> m_pdfWriters;
+    std::unique_ptr<UsbPackageState> m_usbPackages; // after m_windowManage: it shows its dialogs
 };
 
 #endif // VIEWMANAGE_H

@@ -1,32 +1,35 @@
-// The file dialog; project packages and external devices are not built yet: their calls are accepted and
-// change nothing, returning what they return for an unknown id.
+// The file dialog, and the dialogs about project packages on removable storage with the release of
+// a medium; the package dialogs and the storage watcher live in UsbPackageState.
 #include "views/viewmanage.h"
 
 #include "platform/guiqtadaptcore.h"
 #include "views/qmlwindowmanage.h"
+#include "views/usbpackagestate.h"
 
-int ViewManage::View_ExtDevEject(int)
+using GuiQtAdapt::Core;
+
+int ViewManage::View_ExtDevEject(int storeNo)
 {
-    return -1;
+    return m_usbPackages->eject(storeNo);
 }
 
-int ViewManage::View_PopupExtDevPlugin(unsigned int, int)
+int ViewManage::View_PopupExtDevPlugin(unsigned int id, int storeNo)
 {
-    return -1;
+    return m_usbPackages->plugged(id, storeNo) ? 0 : -1;
 }
 
 int ViewManage::View_PopupFileDialog(unsigned int id, const char* path)
 {
     // id is the window the dialog belongs to; its 770 carries it
-    return m_windowManage->popupFileDialog(id, GuiQtAdapt::Core::fromUtf8(path)) ? 0 : -1;
+    return m_windowManage->popupFileDialog(id, Core::fromUtf8(path)) ? 0 : -1;
 }
 
-int ViewManage::View_PopupPKGDownloadCfm(unsigned int, int, const char*)
+int ViewManage::View_PopupPKGDownloadCfm(unsigned int id, int storeNo, const char* path)
 {
-    return -1;
+    return m_usbPackages->confirm(id, storeNo, Core::fromUtf8(path)) ? 0 : -1;
 }
 
-int ViewManage::View_PopupPKGFileExplorer(unsigned int, int)
+int ViewManage::View_PopupPKGFileExplorer(unsigned int id, int storeNo)
 {
-    return -1;
+    return m_usbPackages->explore(id, storeNo) ? 0 : -1;
 }

@@ -101,6 +101,8 @@ public:
     qreal baseY() const { return m_baseY; }
     /** True when \a scenePos lies on the keyboard or its entry line while they are shown. */
     bool containsScenePoint(const QPointF& scenePos) const;
+    /** True during the first frames after start, while the keyboard is drawn almost transparent. */
+    bool isWarmingUp() const { return m_warming; }
 
     static constexpr const char* popupUrl = "qrc:/vkb/PopupTextFiled.qml";
 

@@ -8,6 +8,7 @@
 #include "operatortouch.h"
 #include "manualscreen.h"
 #include "processscreen.h"
+#include "storagescreen.h"
 #include "trendscreen.h"
 
 #include <csignal>
@@ -44,6 +45,8 @@ int g_processStep = 0;
 bool g_processDone = false;
 int g_manualStep = 0;
 bool g_manualDone = false;
+int g_storageStep = 0;
+bool g_storageDone = false;
 int g_trendStep = 0;
 bool g_trendDone = false;
 int g_recipeStep = 0;
@@ -392,7 +395,7 @@ ErrRet onEvent(unsigned id, int code, void* data)
     std::fflush(stdout);
     if (EntryScreen::onEvent(id, code, data) || RecipeScreen::onEvent(id, code, data)
         || TrendScreen::onEvent(id, code, data) || ProcessScreen::onEvent(id, code, data)
-        || ManualScreen::onEvent(id, code, data))
+        || ManualScreen::onEvent(id, code, data) || StorageScreen::onEvent(id, code, data))
         return 0;
     if (MenuScreen::onEvent(id, code, data))
         return 0;
@@ -550,6 +553,8 @@ void every100ms(int)
             showWindow(kManual);
         if (!g_manualDone && g_ticks100 >= kManualFrom && (g_ticks100 - kManualFrom) % 3 == 0)
             g_manualDone = !ManualScreen::scriptStep(g_manualStep++, screenshot);
+        if (g_manualDone && !g_storageDone && g_ticks100 % 3 == 0) // then a USB stick arrives
+            g_storageDone = !StorageScreen::scriptStep(kManual, g_storageStep++, screenshot);
         break;
     }
     if (g_settings.quitAfterMs > 0 && g_ticks100 * 100 >= g_settings.quitAfterMs)

@@ -32,7 +32,7 @@ int main(int argc, char** argv)
         if (settings.screenshotDir.empty())
             settings.screenshotDir = "demo-out";
         if (settings.quitAfterMs <= 0)
-            settings.quitAfterMs = 43000;
+            settings.quitAfterMs = 45000;
     }
     static char projectOpt[] = "-hmifile";
     static char projectDir[] = "demo-project";

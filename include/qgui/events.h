@@ -87,8 +87,8 @@ enum ViewEvent : int {
 
     /* USB packages */
     EVT_USB_PKG_DOWNLOAD = 0x901, /**< package download asked for; View_EvtUsbPackage */
-    EVT_USB_PKG_CONFIRM = 0x902, /**< download confirmed; the package path */
-    EVT_USB_PKG_BROWSE = 0x903, /**< browse asked for; U32 the dialog's selection word */
+    EVT_USB_PKG_CONFIRM = 0x902, /**< download confirmed; the package's absolute path, UTF-8 */
+    EVT_USB_PKG_BROWSE = 0x903, /**< browse asked for; U32 the dialog's selection word (see View_EvtUsbPackage) */
 
     /* PDF */
     EVT_PDF_SOURCE = 0xA01 /**< PDF view source changed (its file opened or failed); View_EvtPdfSource */
@@ -231,7 +231,8 @@ enum VncState : int {
 
 /** EVT_USB_PKG_DOWNLOAD. */
 struct View_EvtUsbPackage {
-    U32 word; /**< the dialog's selection word (source 0) or the storage number (source 1) */
+    U32 word; /**< source 0: the dialog's selection word: bits 0-7 the storage number, bit 8 set when the
+                   project is chosen, bit 9 when the data (recipes, logs) is; source 1: the storage number */
     U32 source; /**< 0 from the package dialog, 1 from View_PopupExtDevPlugin */
 };
 

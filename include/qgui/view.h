@@ -567,18 +567,27 @@ QGUI_EXPORT int View_CurveUpdateCursorTitle(unsigned int id, const View_Text& ti
 
 /* ---- packages, external devices, file dialog ---- */
 
-/** Ejects the removable storage `storeNo` (StoreNo); 0, or -1 when it is not present. */
+/** Releases removable storage `storeNo` (STORE_SD, STORE_USB1, STORE_USB2): the package dialogs on it close,
+ * pending writes reach the medium, and a medium mounted on the storage folder is unmounted. 0 when released (a
+ * folder that is no mount point has nothing more to release); -1 for another number, a storage folder that
+ * does not exist, or an unmount that failed (the medium busy): the medium stays. */
 QGUI_EXPORT int View_ExtDevEject(int storeNo);
-/** Reports a plugged-in storage `storeNo`: with a package dialog up, EVT_USB_PKG_DOWNLOAD (storeNo, 1);
- * otherwise opens the package dialog. 0. */
+/** A medium is in storage `storeNo` (STORE_HMI..STORE_USB2), for window `id`: with a package dialog up, only
+ * EVT_USB_PKG_DOWNLOAD (storeNo, 1) is sent; otherwise the "plugged" dialog opens (what the medium holds,
+ * the project and data to download; EVT_USB_PKG_DOWNLOAD or EVT_USB_PKG_BROWSE follow a press). 0, or -1
+ * for an unknown window or storage number. */
 QGUI_EXPORT int View_PopupExtDevPlugin(unsigned int id, int storeNo);
 /** Opens the file dialog at `path` for `id`; the choice comes as EVT_FILE_DIALOG. 0, or -1 for an unknown
  * window. */
 QGUI_EXPORT int View_PopupFileDialog(unsigned int id, const char* path);
-/** Asks the operator to confirm downloading the package at `path` from storage `storeNo`; EVT_USB_PKG_CONFIRM
- * follows a confirmation. 0. */
+/** Asks the operator to confirm downloading the package at `path` (UTF-8, absolute or relative to the storage
+ * folder) from storage `storeNo`, for window `id`; EVT_USB_PKG_CONFIRM follows a confirmation, nothing a
+ * cancel. 0, or -1 for an unknown window or storage, or a path that is no file inside that storage (links
+ * followed: "..", or a link to another storage, is refused). */
 QGUI_EXPORT int View_PopupPKGDownloadCfm(unsigned int id, int storeNo, const char* path);
-/** Opens the package explorer on storage `storeNo`; EVT_USB_PKG_BROWSE and EVT_USB_PKG_DOWNLOAD follow. 0. */
+/** Opens the package explorer on storage `storeNo` for window `id`: its folders and package files ("*.pkg",
+ * "*.zip", "*.7z"), never anything outside that storage; a touched package asks for its confirmation above
+ * the explorer (EVT_USB_PKG_CONFIRM when confirmed). 0, or -1 for an unknown window or storage number. */
 QGUI_EXPORT int View_PopupPKGFileExplorer(unsigned int id, int storeNo);
 
 /* ---- PDF viewer and writer, export ---- */

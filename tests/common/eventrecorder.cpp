@@ -68,6 +68,8 @@ int EventRecorder::payloadSize(int code)
         return sizeof(int); // the result field of the screenshot record
     case 2305:
         return 2 * sizeof(unsigned);
+    case 2307:
+        return sizeof(unsigned);
     case 2561:
         return 2 * sizeof(int);
     default:

@@ -18,7 +18,7 @@ int XUsbSelectFileData::rowCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : m_entries.size();
 }
 
-static QString readableSize(qint64 bytes)
+QString XUsbSelectFileData::readableSize(qint64 bytes)
 {
     static const char* const units[] = { "B", "KB", "MB", "GB", "TB" };
     double v = double(bytes);

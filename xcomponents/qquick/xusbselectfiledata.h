@@ -32,6 +32,8 @@ public:
         DateRole /**< time last modified, "yyyy-MM-dd hh:mm" */
     };
 
+    /** \a bytes as an operator reads it: "512 B", "12.3 KB", "1.5 GB". */
+    static QString readableSize(qint64 bytes);
     /** Most entries listed in one folder. */
     static constexpr int kMaxEntries = 10000;
 
