@@ -20,11 +20,9 @@ PdfPageRenderer::PdfPageRenderer(QObject* parent)
 
 PdfPageRenderer::~PdfPageRenderer()
 {
-    // the document goes with its thread's context, on that thread
-    QObject* context = m_context;
-    QMetaObject::invokeMethod(m_context, [context] { delete context; });
     m_thread.quit();
     m_thread.wait();
+    delete m_context; // with the document; its thread has stopped, nothing else touches them
 }
 
 void PdfPageRenderer::load(const QString& path, int first, const SizeRule& rule)
