@@ -1,24 +1,51 @@
 // Exports: the FTP client family.
 #include "app/layerlog.h"
 #include "platform/guiqtadaptcore.h"
+#include "config/projectmanage.h"
 #include "utils/ftpclientmanage.h"
+#include "utils/ftpservermanage.h"
 
 #include <qgui/ftp.h>
 
+namespace {
+/* Paths must be valid UTF-8: a replaced character would name another file. Null and invalid give "". */
+QString pathOf(const char* text)
+{
+    if (!text)
+        return QString();
+    const QByteArray raw(text);
+    return QString::fromUtf8(raw).toUtf8() == raw ? GuiQtAdapt::Core::fromString(text) : QString();
+}
+} // namespace
+
 int Ftp_ConfigServer(const FtpServerPrm& prm)
 {
-    QGUI_LAYER_LOG("enable {}", int(prm.enable));
-    return -1; // no FTP server runs on the panel
+    QGUI_LAYER_LOG("enable {} port {}", int(prm.enable), int(prm.port));
+    FtpServerManage* server = FtpServerManage::getInstance();
+    if (!prm.enable)
+        return server->stop();
+    FtpServerManage::Settings s;
+    s.anonymous = prm.anonymous != 0;
+    s.readOnly = prm.readOnly != 0;
+    s.port = prm.port ? prm.port : 21;
+    s.maxClients = prm.maxClients;
+    s.rootPath = pathOf(prm.rootPath);
+    if (!prm.rootPath || !*prm.rootPath)
+        s.rootPath = ProjectManage::getInstance()->getPrjPath() + QStringLiteral("disk");
+    s.user = pathOf(prm.user);
+    return server->start(s);
 }
 
 int Ftp_Connect(const FtpClientPrm& prm)
 {
     QGUI_LAYER_LOG("client {}", int(prm.client));
-    FtpClientManage::Client c;
+    FtpClient::Settings c;
     c.host = GuiQtAdapt::Core::fromUtf8(prm.host);
     c.port = prm.port ? prm.port : 21;
-    c.user = GuiQtAdapt::Core::fromUtf8(prm.user);
-    c.password = GuiQtAdapt::Core::fromUtf8(prm.password);
+    // credentials go to the server byte for byte
+    c.user = prm.user ? QByteArray(prm.user) : QByteArray();
+    c.password = prm.password ? QByteArray(prm.password) : QByteArray();
+    c.passive = prm.passive != 0;
     c.timeoutMs = prm.timeoutMs > 0 ? prm.timeoutMs : 15000;
     return FtpClientManage::getInstance()->connectClient(prm.client, c);
 }
@@ -32,21 +59,33 @@ int Ftp_CheckState(unsigned char client)
 int Ftp_DisConnect(unsigned char client, bool wait)
 {
     QGUI_LAYER_LOG("client {} wait {}", int(client), wait);
-    return FtpClientManage::getInstance()->disconnectClient(client);
+    return FtpClientManage::getInstance()->disconnectClient(client, wait);
 }
 
 int Ftp_Put(unsigned char client, const char* localPath, const char* remotePath, bool overwrite)
 {
     QGUI_LAYER_LOG("client {}", int(client));
     return FtpClientManage::getInstance()->put(
-        client, GuiQtAdapt::Core::fromUtf8(localPath), GuiQtAdapt::Core::fromUtf8(remotePath), overwrite);
+        client, pathOf(localPath), pathOf(remotePath), overwrite);
 }
 
 int Ftp_Pull(unsigned char client, const char* localPath, const char* remotePath, bool overwrite)
 {
     QGUI_LAYER_LOG("client {}", int(client));
     return FtpClientManage::getInstance()->pull(
-        client, GuiQtAdapt::Core::fromUtf8(localPath), GuiQtAdapt::Core::fromUtf8(remotePath), overwrite);
+        client, pathOf(localPath), pathOf(remotePath), overwrite);
+}
+
+int Ftp_TransferProgress(unsigned char client, long long* done, long long* total)
+{
+    QGUI_LAYER_TRACE("client {}", int(client));
+    qint64 d = 0, t = 0;
+    const int r = FtpClientManage::getInstance()->progress(client, &d, &t);
+    if (done)
+        *done = r < 0 ? 0 : d;
+    if (total)
+        *total = r < 0 ? 0 : t;
+    return r;
 }
 
 int removeClient(unsigned char client)

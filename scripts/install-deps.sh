@@ -18,6 +18,7 @@ PACKAGES=(
   # libraries
   qttools5-dev-tools
   libqcustomplot-dev libqrcodegencpp-dev libpaho-mqtt-dev libssl-dev qtpdf5-dev
+  libcurl4-openssl-dev
   libspdlog-dev libfmt-dev
   # a real Pinyin engine for the demo's logic layer (the library does not link it)
   libgooglepinyin0-dev
@@ -26,6 +27,7 @@ PACKAGES=(
   fonts-noto-cjk fonts-dejavu-core
   # servers and tools used by the tests
   mosquitto mosquitto-clients postgresql mariadb-server p7zip-full zbar-tools poppler-utils
+  vsftpd python3-pyftpdlib curl
   procps binutils
 )
 

@@ -1,52 +1,57 @@
 #ifndef FTPCLIENTMANAGE_H
 #define FTPCLIENTMANAGE_H
 
-#include <QHash>
+#include "utils/ftpclient.h"
+
 #include <QObject>
-#include <QPointer>
 #include <QString>
 
-class QNetworkAccessManager;
-class QNetworkReply;
+#include <map>
+#include <memory>
 
 /**
- * FTP clients by number, on Qt's network access (ftp:// URLs). Ftp_Connect
- * checks the server by listing its root and reports the state (event 2049)
- * and the result (event 2050); Ftp_Put and Ftp_Pull transfer one file each and
- * report their result. Running a server on the panel is not offered
- * (Ftp_ConfigServer answers -1). Events are sent on the GUI thread.
+ * The panel's FTP clients by number (the Ftp_ calls). Each client is an
+ * FtpClient with its own worker thread; this class keeps the connection state
+ * the logic layer sees and sends events 2049 (state) and 2050 (result) on the
+ * GUI thread. Every accepted command is answered once: by its client's worker,
+ * or here as cancelled when a disconnect, a new connect or removeClient takes
+ * it back.
  */
 class FtpClientManage : public QObject {
     Q_OBJECT
 
 public:
     static FtpClientManage* getInstance();
+    ~FtpClientManage() override;
 
-    struct Client {
-        QString host;
-        quint16 port = 21;
-        QString user;
-        QString password;
-        int timeoutMs = 15000;
+    int connectClient(unsigned char client, const FtpClient::Settings& prm);
+    int state(unsigned char client) const;
+    int disconnectClient(unsigned char client, bool wait);
+    int put(unsigned char client, const QString& local, const QString& remote, bool overwrite);
+    int pull(unsigned char client, const QString& local, const QString& remote, bool overwrite);
+    int progress(unsigned char client, qint64* done, qint64* total) const;
+    int removeClient(unsigned char client);
+    /** Ends every client (at quit); no event follows. */
+    void removeAll();
+
+    /** False when \a text cannot go on an FTP command line (CR, LF or NUL in it). */
+    static bool isCommandSafe(const QByteArray& text);
+
+private:
+    struct Entry {
+        std::unique_ptr<FtpClient> client;
         int state = 0; // FtpState
     };
 
-    int connectClient(unsigned char client, const Client& prm);
-    int state(unsigned char client) const;
-    int disconnectClient(unsigned char client);
-    int put(unsigned char client, const QString& local, const QString& remote, bool overwrite);
-    int pull(unsigned char client, const QString& local, const QString& remote, bool overwrite);
-    int removeClient(unsigned char client);
-
-private:
     explicit FtpClientManage(QObject* parent = nullptr);
-    QUrl url(const Client& c, const QString& remote) const;
     void setState(unsigned char client, int state);
     void finish(unsigned char client, int command, int error, const QString& local, const QString& remote);
-    void watch(QNetworkReply* reply, int timeoutMs);
+    void answerCancelled(unsigned char client, const std::deque<FtpClient::Job>& taken);
+    void retire(std::unique_ptr<FtpClient> client, bool silent);
+    void deliverFinished(FtpClient* c);
+    int submit(unsigned char client, int command, const QString& local, const QString& remote, bool overwrite);
 
-    QNetworkAccessManager* m_nam;
-    QHash<unsigned char, Client> m_clients;
+    std::map<unsigned char, Entry> m_clients;
 };
 
 #endif // FTPCLIENTMANAGE_H

@@ -202,10 +202,25 @@ enum FtpCommand : int {
     FTP_CMD_DISCONNECT = 3 /**< Ftp_DisConnect */
 };
 
+/** Failure codes of View_EvtFtpResult::error. */
+enum FtpError : int {
+    FTP_OK = 0, /**< done */
+    FTP_ERR_CONNECT = 1, /**< the server could not be reached (unknown host, refused, not an FTP server) */
+    FTP_ERR_LOGIN = 2, /**< the server refused the user name or password */
+    FTP_ERR_TIMEOUT = 3, /**< nothing moved for the client's time-out (host silent, transfer stalled) */
+    FTP_ERR_REMOTE_MISSING = 4, /**< pull: the remote file (or a folder on its path) does not exist */
+    FTP_ERR_EXISTS = 5, /**< the target exists and `overwrite` was false; nothing was written */
+    FTP_ERR_LOCAL = 6, /**< the local file could not be read or written */
+    FTP_ERR_TRANSFER = 7, /**< the connection broke during the transfer; a pulled file is not kept */
+    FTP_ERR_CANCELLED = 8, /**< Ftp_DisConnect, Ftp_Connect again or removeClient ended the command */
+    FTP_ERR_REFUSED = 9, /**< the server refused the command (permissions, read-only server, disk full) */
+    FTP_ERR_OTHER = 10 /**< any other failure; the log names it */
+};
+
 /** EVT_FTP_RESULT: a finished command. */
 struct View_EvtFtpResult {
     int command; /**< FtpCommand */
-    int error; /**< 0 done; otherwise a non-zero failure code */
+    int error; /**< FtpError: 0 done, otherwise why not */
     const char* localPath; /**< local file of a transfer; "" otherwise */
     const char* remotePath; /**< remote file of a transfer; "" otherwise */
 };

@@ -90,24 +90,26 @@ struct View_WebBrowser {
 /** Settings of the panel's FTP server (Ftp_ConfigServer). */
 struct FtpServerPrm {
     U8 enable; /**< non-zero runs the server, 0 stops it */
-    U8 anonymous; /**< non-zero: logins without a password are accepted */
-    U8 readOnly; /**< non-zero: clients may not write */
-    U16 port; /**< listening port; 0 selects 21 */
+    U8 anonymous; /**< non-zero: anonymous logins are accepted (no password asked), kept inside rootPath */
+    U8 readOnly; /**< non-zero: clients may not write; otherwise they write where the system's "ftp" account
+                      may (anonymous) or where `user` may */
+    U16 port; /**< listening port on every address of the panel; 0 selects 21 */
     U32 maxClients; /**< most simultaneous clients; 0 for no limit */
-    const char* rootPath; /**< folder served, UTF-8 */
-    const char* user; /**< user name of authenticated logins */
-    const char* password; /**< password of authenticated logins */
+    const char* rootPath; /**< folder served, UTF-8; null or "" serves the project's storage folders ("disk/") */
+    const char* user; /**< an account of the panel's system that may also log in (its own password, checked
+                           by the system; never root), kept inside rootPath; null or "" for none */
+    const char* password; /**< not used: an account logs in with its own password */
 };
 
 /** A connection of the FTP client (Ftp_Connect). */
 struct FtpClientPrm {
     U8 client; /**< client number, the key of the other Ftp_ calls and the id of its events */
-    U8 passive; /**< non-zero: passive mode */
+    U8 passive; /**< non-zero: passive mode (the client opens the data connections); 0: active mode */
     U16 port; /**< server port; 0 selects 21 */
     const char* host; /**< server address */
     const char* user; /**< user name; null or "" logs in anonymously */
-    const char* password; /**< password */
-    int timeoutMs; /**< connection and transfer timeout, ms; <= 0 selects the default */
+    const char* password; /**< password; sent as given (quotes and blanks are fine; CR, LF refuse the connect) */
+    int timeoutMs; /**< how long nothing may move (connection, answer, bytes), ms; <= 0 selects 15000 */
 };
 
 #endif /* QGUI_RECORDS_MISC_H */

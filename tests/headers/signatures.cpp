@@ -236,6 +236,7 @@ QGUI_CHECK_SIGNATURE(Ftp_CheckState, int (*)(unsigned char));
 QGUI_CHECK_SIGNATURE(Ftp_DisConnect, int (*)(unsigned char, bool));
 QGUI_CHECK_SIGNATURE(Ftp_Put, int (*)(unsigned char, char const*, char const*, bool));
 QGUI_CHECK_SIGNATURE(Ftp_Pull, int (*)(unsigned char, char const*, char const*, bool));
+QGUI_CHECK_SIGNATURE(Ftp_TransferProgress, int (*)(unsigned char, long long*, long long*));
 QGUI_CHECK_SIGNATURE(removeClient, int (*)(unsigned char));
 
 // The scale classes are meant to be derived from, also both at once.
