@@ -3,6 +3,7 @@
 #include "demologic.h"
 
 #include "entryscreen.h"
+#include "ftpupload.h"
 #include "recipescreen.h"
 #include "menuscreen.h"
 #include "operatortouch.h"
@@ -297,8 +298,10 @@ void showWindow(unsigned windowId)
         RecipeScreen::build(kRecipes);
     if (windowId == kTrend)
         TrendScreen::build(kTrend);
-    if (windowId == kProcess)
+    if (windowId == kProcess) {
         ProcessScreen::build(kProcess);
+        FtpUpload::build(kProcess);
+    }
     if (windowId == kManual)
         ManualScreen::build(kManual);
     if (windowId == kWindow1)
@@ -368,6 +371,10 @@ const char* eventName(int code)
         return "candidate page";
     case EVT_DATETIME_OK:
         return "date/time chosen";
+    case EVT_FTP_STATE:
+        return "ftp state";
+    case EVT_FTP_RESULT:
+        return "ftp result";
     default:
         return "event";
     }
@@ -393,6 +400,8 @@ ErrRet onEvent(unsigned id, int code, void* data)
     }
     std::printf("\n");
     std::fflush(stdout);
+    if (FtpUpload::onEvent(id, code, data))
+        return 0;
     if (EntryScreen::onEvent(id, code, data) || RecipeScreen::onEvent(id, code, data)
         || TrendScreen::onEvent(id, code, data) || ProcessScreen::onEvent(id, code, data)
         || ManualScreen::onEvent(id, code, data) || StorageScreen::onEvent(id, code, data))
@@ -432,6 +441,7 @@ int onDeviceInit(unsigned deviceNo, const char*, const char*, const unsigned* wo
     View_CreateDesktop(Size { 1024, 600 }, kDesk);
     if (!ManualScreen::writeManual()) // the line's manual, read on the manual screen
         std::printf("demo: cannot write the manual\n");
+    FtpUpload::start(); // the exported alarms are uploaded to the panel's FTP server later
     showWindow(kWindow1);
     return 0;
 }
@@ -547,8 +557,10 @@ void every100ms(int)
             exportAlarms();
         if (g_ticks100 == kProcessFrom + 30)
             screenshot("29-alarms-exported");
-        if (g_ticks100 == kProcessFrom + 32) // and chooses it
+        if (g_ticks100 == kProcessFrom + 32) // and chooses it: it goes to the FTP server too
             OperatorTouch::touchItem("fileRow0");
+        if (g_ticks100 == kProcessFrom + 36)
+            screenshot("29-alarms-uploaded");
         if (g_ticks100 == kManualFrom - 4)
             showWindow(kManual);
         if (!g_manualDone && g_ticks100 >= kManualFrom && (g_ticks100 - kManualFrom) % 3 == 0)
