@@ -70,7 +70,8 @@ Q_SIGNALS:
 private:
     /** On the render thread: measures pages from \a from on, a slice at a time. */
     void readSizes(quint64 serial, QVector<QSizeF> sizes);
-    /** On the render thread: \a page at \a size on white paper; null when it cannot be rendered. */
+    /** On the render thread: \a page at \a size, premultiplied and transparent where nothing is printed (the
+     *  view's paper shows through); null when it cannot be rendered. */
     QImage renderPage(int page, const QSize& size);
 
     QThread m_thread;

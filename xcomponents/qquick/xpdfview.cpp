@@ -286,20 +286,23 @@ void XPdfView::clampContent()
 
 void XPdfView::requestPictures()
 {
-    QVector<int> keep = pagesInSight();
-    if (!keep.isEmpty()) { // the neighbours too, so the next page is there at once
-        const int before = keep.first() - 1, after = keep.last() + 1;
+    const QVector<int> inSight = pagesInSight();
+    QVector<int> keep = inSight;
+    QVector<int> neighbours;
+    if (!inSight.isEmpty()) { // the neighbours too, so the next page is there at once
+        const int before = inSight.first() - 1, after = inSight.last() + 1;
         if (before >= 0)
-            keep.prepend(before);
+            neighbours.append(before);
         if (after < m_pageSizes.size())
-            keep.append(after);
+            neighbours.append(after);
+        keep += neighbours;
     }
     for (auto it = m_pictures.begin(); it != m_pictures.end();) {
         if (keep.contains(it.key())) {
             ++it;
         } else {
             it = m_pictures.erase(it);
-                }
+        }
     }
     // requests for pages that left the sight are dropped: a fast page-through renders only its end
     const QList<int> asked = m_asked.keys();
@@ -307,7 +310,23 @@ void XPdfView::requestPictures()
         m_renderer->nextGeneration();
         m_asked.clear();
     }
-    for (int p : qAsConst(keep)) {
+    requestPages(inSight);
+    QObject::disconnect(m_neighbours);
+    const bool inSightReady = std::all_of(inSight.begin(), inSight.end(),
+        [this](int p) { return m_pictures.value(p).size() == renderSize(p); });
+    if (inSightReady || !window()) {
+        requestPages(neighbours);
+    } else {
+        m_neighbours = connect(window(), &QQuickWindow::frameSwapped, this, [this]() {
+            QObject::disconnect(m_neighbours);
+            requestPictures(); // the pages in sight have been shown by now, or are still on their way
+        }, Qt::QueuedConnection);
+    }
+}
+
+void XPdfView::requestPages(const QVector<int>& pages)
+{
+    for (int p : pages) {
         const QSize size = renderSize(p);
         if (m_pictures.value(p).size() == size || m_asked.value(p) == size)
             continue;

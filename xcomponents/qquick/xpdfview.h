@@ -116,7 +116,10 @@ private:
     QVector<int> pagesInSight() const;
     void scrollBy(const QPointF& delta);
     void clampContent();
+    /** Asks for the pictures of the pages in sight at once, and for their neighbours once a frame has shown
+     *  what is in sight (so that rendering them does not slow that frame down). */
     void requestPictures();
+    void requestPages(const QVector<int>& pages);
     void setStatus(int status);
     void followPageFromScroll();
 
@@ -126,6 +129,7 @@ private:
     QVector<qreal> m_pageTops; // continuous mode: top of each page in the content, pixels
     QHash<int, QImage> m_pictures; // page -> rendered picture
     QHash<int, QSize> m_asked; // page -> size asked for and not yet back
+    QMetaObject::Connection m_neighbours; // the wait for the frame after which the neighbours are asked for
     int m_page = 0;
     int m_wantedPage = 0;
     int m_zoom = 100;
