@@ -70,50 +70,23 @@ XQuickFileDialog {
         height: parent.height - y - 72
         clip: true
         model: dialog.files
-        delegate: Rectangle {
+        delegate: QmlFileRow {
             objectName: "fileRow" + index
             width: list.width
-            height: 56
-            color: rowArea.pressed ? "#d0dcea" : (index % 2 ? "#ffffff" : "#f0f3f7")
-            Item { // a folder (a tab over a box) or a page
-                x: 12
-                width: 30; height: 26
-                anchors.verticalCenter: parent.verticalCenter
-                Rectangle { visible: model.isDir; x: 0; y: 0; width: 12; height: 6; radius: 2; color: "#d9a53a" }
-                Rectangle { visible: model.isDir; x: 0; y: 4; width: 30; height: 22; radius: 3; color: "#f0c35a"
-                            border.color: "#c08a20" }
-                Rectangle { visible: !model.isDir; x: 5; y: 0; width: 20; height: 26; radius: 2; color: "white"
-                            border.color: "#7a8896" }
-                Rectangle { visible: !model.isDir; x: 9; y: 8; width: 12; height: 2; color: "#9aa5b1" }
-                Rectangle { visible: !model.isDir; x: 9; y: 13; width: 12; height: 2; color: "#9aa5b1" }
-                Rectangle { visible: !model.isDir; x: 9; y: 18; width: 8; height: 2; color: "#9aa5b1" }
-            }
-            Text {
-                x: 52
-                width: parent.width - 52 - 260
-                anchors.verticalCenter: parent.verticalCenter
-                elide: Text.ElideMiddle
-                font.pixelSize: 18
-                color: "#1c2733"
-                text: model.name
-            }
-            Text {
-                x: parent.width - 250
-                width: 90
-                horizontalAlignment: Text.AlignRight
-                anchors.verticalCenter: parent.verticalCenter
-                font.pixelSize: 15
-                color: "#5b6b7b"
-                text: model.size
-            }
-            Text {
-                x: parent.width - 150
-                anchors.verticalCenter: parent.verticalCenter
-                font.pixelSize: 15
-                color: "#5b6b7b"
-                text: model.date
-            }
-            MouseArea { id: rowArea; anchors.fill: parent; onClicked: dialog.activate(index) }
+            rowIndex: index
+            name: model.name
+            size: model.size
+            date: model.date
+            onActivated: dialog.activate(index)
+            // a folder (a tab over a box) or a page
+            Rectangle { visible: model.isDir; x: 0; y: 0; width: 12; height: 6; radius: 2; color: "#d9a53a" }
+            Rectangle { visible: model.isDir; x: 0; y: 4; width: 30; height: 22; radius: 3; color: "#f0c35a"
+                        border.color: "#c08a20" }
+            Rectangle { visible: !model.isDir; x: 5; y: 0; width: 20; height: 26; radius: 2; color: "white"
+                        border.color: "#7a8896" }
+            Rectangle { visible: !model.isDir; x: 9; y: 8; width: 12; height: 2; color: "#9aa5b1" }
+            Rectangle { visible: !model.isDir; x: 9; y: 13; width: 12; height: 2; color: "#9aa5b1" }
+            Rectangle { visible: !model.isDir; x: 9; y: 18; width: 8; height: 2; color: "#9aa5b1" }
         }
     }
     Text {

@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import QQuickHalvex 1.0
+import "qrc:/" // the file row shared with the file dialog
 
 // The packages of one storage: folders first, then package files; a touched
 // package asks for its confirmation, a touched folder opens.
@@ -59,44 +60,21 @@ XUsbPackageDialog {
         height: parent.height - y - 72
         clip: true
         model: dialog.files
-        delegate: Rectangle {
+        delegate: QmlFileRow {
             objectName: "packageRow" + index
             width: list.width
-            height: 56
-            color: rowArea.pressed ? "#d0dcea" : (index % 2 ? "#ffffff" : "#f0f3f7")
+            rowIndex: index
+            name: model.name
+            size: model.size
+            date: model.date
+            onActivated: dialog.activate(index)
             Rectangle { // a folder, or a package box
-                x: 12; width: 30; height: 26
-                anchors.verticalCenter: parent.verticalCenter
+                width: 30; height: 26
                 radius: 3
                 color: model.isDir ? "#f0c35a" : "#b5835a"
                 border.color: model.isDir ? "#c08a20" : "#7d5533"
                 Rectangle { visible: !model.isDir; x: 13; width: 4; height: parent.height; color: "#e8d2b0" }
             }
-            Text {
-                x: 52
-                width: parent.width - 52 - 260
-                anchors.verticalCenter: parent.verticalCenter
-                elide: Text.ElideMiddle
-                font.pixelSize: 18
-                color: "#1c2733"
-                text: model.name
-            }
-            Text {
-                x: parent.width - 250; width: 90
-                horizontalAlignment: Text.AlignRight
-                anchors.verticalCenter: parent.verticalCenter
-                font.pixelSize: 15
-                color: "#5b6b7b"
-                text: model.size
-            }
-            Text {
-                x: parent.width - 150
-                anchors.verticalCenter: parent.verticalCenter
-                font.pixelSize: 15
-                color: "#5b6b7b"
-                text: model.date
-            }
-            MouseArea { id: rowArea; anchors.fill: parent; onClicked: dialog.activate(index) }
         }
     }
     Text {
