@@ -6,9 +6,13 @@
 // event loop (a frame's synchronisation, deferred deletions, queued results).
 //
 // The baseline, run first in a child process of this same program ("--bare"): a plain QTimer of 10 ms in a
-// QGuiApplication with a QQuickView of 1,000 QML Text items changed the same way (100 per tick).
+// QGuiApplication with a QQuickView of 1,000 QML Text items changed the same way (100 per tick), on a
+// surface multisampled like the panel's. Under a software renderer the resolve of 4 samples per pixel at
+// each frame's swap is the largest part of a frame: X_DISABLE_ANTIALIASING=1 shows both sides without it.
 //
 //   bench_cycle [seconds]      (default 20; the first 2 s are not counted)
+//   QGUI_CYCLE_PARTS=texts,table,chart,marquee,db,mqtt   the parts of the load to run (default all), to
+//                                                        find which one a slow cycle comes from
 #include "benchreport.h"
 
 #include <qgui/qgui.h>
@@ -24,6 +28,7 @@
 #include <QQuickItem>
 #include <QQuickView>
 #include <QQuickWindow>
+#include <QSurfaceFormat>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -52,6 +57,15 @@ constexpr unsigned kDb = 1;
 constexpr int kWarmupMs = 2000;
 
 int g_seconds = 20;
+
+bool part(const char* name)
+{
+    const char* parts = std::getenv("QGUI_CYCLE_PARTS");
+    if (!parts || !*parts)
+        return true;
+    const std::string list = std::string(",") + parts + ",";
+    return list.find(std::string(",") + name + ",") != std::string::npos;
+}
 
 struct Gaps {
     std::vector<double> ms;
@@ -102,6 +116,15 @@ void printFigures(const char* who, const std::vector<double>& gaps)
 
 int runBare(int argc, char** argv)
 {
+    // the panel's own surface: multisampled as the library sets it (4 samples unless switched off), since
+    // the resolve of the samples is a large part of a frame under a software renderer
+    if (qEnvironmentVariableIntValue("X_DISABLE_ANTIALIASING") == 0) {
+        bool ok = false;
+        const int samples = qEnvironmentVariableIntValue("X_ANTIALIASING_SAMPLES", &ok);
+        QSurfaceFormat format = QSurfaceFormat::defaultFormat();
+        format.setSamples(!ok || samples < 2 ? 4 : qMin(samples, 16));
+        QSurfaceFormat::setDefaultFormat(format);
+    }
     QGuiApplication app(argc, argv);
     QQuickView view;
     view.setResizeMode(QQuickView::SizeRootObjectToView);
@@ -178,7 +201,7 @@ int onDeviceInit(unsigned, const char*, const char*, const unsigned*)
     w.rect = Rect { 0, 0, 1024, 600 };
     w.background = Brush { BRUSH_SOLID, 0xFFECEFF3u, 0, 0 };
     View_SwitchWindow(&w);
-    for (int i = 0; i < kTexts; ++i) { // a 40 x 25 grid over the upper half
+    for (int i = 0; i < kTexts && part("texts"); ++i) { // a 40 x 25 grid over the upper half
         View_Text t { 0, Rect { (i % 40) * 25, (i / 40) * 12, 25, 12 }, kFirstText + unsigned(i), "0", &g_small,
             nullptr };
         View_CreateText(&t, kWindow);
@@ -201,7 +224,8 @@ int onDeviceInit(unsigned, const char*, const char*, const unsigned*)
     table.list.backColor = 0xFFFFFFFFu;
     table.list.altBackColor = 0xFFF1F4F8u;
     table.list.gridPen = Pen { 0xFFC8CFD8u, 1, PEN_SOLID };
-    View_CreateListAlarm(&table, kWindow);
+    if (part("table"))
+        View_CreateListAlarm(&table, kWindow);
 
     static View_CurveChannel channels[8] {};
     for (int c = 0; c < 8; ++c)
@@ -220,7 +244,8 @@ int onDeviceInit(unsigned, const char*, const char*, const unsigned*)
     chart.yAxis.upper = 100;
     chart.channels = channels;
     chart.channelCount = 8;
-    View_CreateCurveSample(&chart, kWindow);
+    if (part("chart"))
+        View_CreateCurveSample(&chart, kWindow);
 
     static const View_ListColumn lineColumns[1] = {
         { "Alarm", 0, QGUI_ALIGN_LEFT | QGUI_ALIGN_VCENTER, COL_STRING, nullptr, 0, 0 },
@@ -234,7 +259,8 @@ int onDeviceInit(unsigned, const char*, const char*, const unsigned*)
     line.list.rowHeight = 36;
     line.list.contentFont = &g_line;
     line.list.backColor = 0xFF37474Fu;
-    View_CreateListAlarmBar(&line, kWindow);
+    if (part("marquee"))
+        View_CreateListAlarmBar(&line, kWindow);
     std::vector<std::vector<View_ListColData>> alarms;
     static const char* const texts[] = { "Filler nozzle 3 pressure low", "Capper torque above limit",
         "Conveyor 2 stopped", "Labeller out of labels", "Tank 1 level high" };
@@ -250,7 +276,7 @@ int onDeviceInit(unsigned, const char*, const char*, const unsigned*)
     xDatabase::db_querySync(kDb, "CREATE TABLE samples (n INTEGER, v REAL)", false);
 
     g_broker.reset(new MosquittoBroker);
-    if (g_broker->unavailableReason().isEmpty() && g_broker->start()) {
+    if (part("mqtt") && g_broker->unavailableReason().isEmpty() && g_broker->start()) {
         g_mqtt = MQTT::Mqtt_CreateClient();
         MQTT::MqttConnectPrm prm {};
         prm.hostName = "127.0.0.1";
@@ -345,7 +371,8 @@ void every100ms(int)
     const Clock::time_point t2 = Clock::now();
     char sql[96];
     std::snprintf(sql, sizeof(sql), "INSERT INTO samples VALUES (%d, %.2f)", g_cycle, values[0][0]);
-    xDatabase::db_query(kDb, 1, sql, false);
+    if (part("db"))
+        xDatabase::db_query(kDb, 1, sql, false);
     if (g_mqtt)
         MQTT::Mqtt_Publish(g_mqtt, "bench/cycle", sql, 0, false);
     const Clock::time_point t3 = Clock::now();
