@@ -18,6 +18,8 @@ int View_SetInterfaceConfigue(View_InterfaceConfigue* config)
 int View_SetSysWndLang(unsigned int lang)
 {
     QGUI_LAYER_LOG("");
+    if (!GuiThreadGuard::allows(__func__))
+        return -1;
     GlobalConfig::getInstance()->setLocale(lang);
     return 0;
 }

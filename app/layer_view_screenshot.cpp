@@ -8,7 +8,7 @@
 int View_ScreenShot(unsigned int id, View_ScreenShotData* data)
 {
     QGUI_LAYER_LOG("id {}", id);
-    if (!data || !data->path || !*data->path)
+    if (!GuiThreadGuard::allows(__func__) || !data || !data->path || !*data->path)
         return -1;
     const QString path = GuiQtAdapt::Core::fromUtf8(data->path);
     ImageGraber* graber = ImageGraber::getInstance();

@@ -128,6 +128,8 @@ int View_MainThreadLoop(int argc, char** argv, const _Main_CallBacks* callbacks)
 int View_CreateProPkg()
 {
     QGUI_LAYER_LOG("\n\t创建 {}", "工程包");
+    if (!GuiThreadGuard::allows(__func__))
+        return -1;
     if (GuiShell* shell = GuiShell::instance())
         shell->createProPkg();
     return 0;

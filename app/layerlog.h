@@ -2,6 +2,7 @@
 #define LAYERLOG_H
 
 #include "platform/nlogger.h"
+#include "views/guithreadguard.h"
 #include "views/viewmanage.h"
 
 #include <tuple>
@@ -23,7 +24,8 @@
  * The whole body of an export that forwards to the ViewManage method \a method:
  * writes the export's line at \a lvl (info, trace), naming its first argument
  * with \a label ("id", "windowId", ...; nullptr names nothing), then calls the
- * method and returns its result unchanged.
+ * method and returns its result unchanged. Called from another thread than the GUI thread, the method is not
+ * called and the export answers -1 (GuiThreadGuard).
  *
  *     int View_SetBusy(unsigned int id) { return QGUI_FORWARD(info, "id", View_SetBusy, id); }
  */
@@ -57,6 +59,8 @@ int forward(spdlog::level::level_enum level, const char* function, const char* l
     } else {
         log->log(level, kSource, function, "");
     }
+    if (!GuiThreadGuard::allows(function))
+        return -1;
     return (ViewManage::getInstance()->*method)(std::forward<Args>(args)...);
 }
 
@@ -64,6 +68,8 @@ template <typename... Params, typename... Args>
 int create(const char* function, const char* kind, int (ViewManage::*method)(Params...), Args&&... args)
 {
     NLog::NLogger::instance()->log(spdlog::level::info, kSource, function, "\n\t创建 {}", kind);
+    if (!GuiThreadGuard::allows(function))
+        return -1;
     return (ViewManage::getInstance()->*method)(std::forward<Args>(args)...);
 }
 

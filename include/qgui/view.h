@@ -2,9 +2,9 @@
  * qgui public interface: the View_* functions through which the logic layer
  * builds and drives the screens.
  *
- * Call them on the GUI thread (the thread that runs View_MainThreadLoop; the
- * 10 ms and 100 ms call-backs and the event call-back run there), except
- * View_PopupMsg, which may be called from any thread.
+ * Call them on the GUI thread (View_MainThreadLoop's; all call-backs run there):
+ * from another thread a call is refused, answers -1 and logs one warning naming
+ * it. View_PopupMsg may come from any thread, as may the text encoding helpers.
  *
  * Results are signed 32-bit: 0 done, -1 not done (unknown id, wrong widget kind,
  * missing window). Where a function returns a fixed value whatever happens, its

@@ -7,10 +7,12 @@
 
 #include "app/xquickview.h"
 #include "platform/xoverlay.h"
+#include "views/guithreadguard.h"
 #include "views/presswatcher.h"
 #include "views/qmlwindowmanage.h"
 #include "views/viewmanage.h"
 #include "xcomponents/qquick/xbasecontrol.h"
+#include "xcomponents/qquick/xcausetext.h"
 #include "xcomponents/qquick/xlumodialog.h"
 #include "xcomponents/qquick/xwindow.h"
 #include "xcomponents/qquick/xwindowtitile.h"
@@ -35,6 +37,8 @@ private Q_SLOTS:
     void window_hands_presses_to_the_widget_under_the_finger();
     void modal_popup_keeps_presses_from_the_window();
     void message_box_from_another_thread();
+    void other_threads_are_refused_data();
+    void other_threads_are_refused();
     void busy_bar_starts_and_stops();
     void windows_switch_and_report_geometry();
     void unknown_windows_give_their_fixed_results();
@@ -210,6 +214,70 @@ void tst_Windows::message_box_from_another_thread()
     QQuickItem* list = wm->messageBox()->findChild<QQuickItem*>("msgList");
     QVERIFY(list);
     QTRY_COMPARE(list->property("count").toInt(), 3);
+}
+
+void tst_Windows::other_threads_are_refused_data()
+{
+    QTest::addColumn<QString>("call");
+    QTest::newRow("create") << "create";
+    QTest::newRow("change text") << "change";
+    QTest::newRow("delete") << "delete";
+    QTest::newRow("hide") << "hide";
+    QTest::newRow("window switch") << "switch";
+    QTest::newRow("close window") << "close";
+    QTest::newRow("language") << "language";
+}
+
+void tst_Windows::other_threads_are_refused()
+{
+    QFETCH(QString, call);
+    const unsigned id = 4711;
+    const Font font {};
+    View_Text rec { 0, Rect { 10, 10, 200, 40 }, id, "as made", &font, nullptr };
+    QCOMPARE(View_CreateText(&rec, A), 0);
+    auto* text = qobject_cast<XCauseText*>(ViewManage::getInstance()->getItemById(id));
+    QVERIFY(text);
+    const int refusedBefore = GuiThreadGuard::refusedCount();
+    const int itemsBefore = ViewManage::getInstance()->findChildren<QObject*>().size();
+    const unsigned B = PanelFixture::wid(1, 9);
+
+    int result = 0;
+    std::thread worker([&] {
+        View_Text other { 0, Rect { 10, 60, 200, 40 }, id + 1, "from a worker", &font, nullptr };
+        View_Window w {};
+        w.id = B;
+        w.rect = Rect { 0, 0, 300, 200 };
+        if (call == QLatin1String("create"))
+            result = View_CreateText(&other, A);
+        else if (call == QLatin1String("change"))
+            result = View_ChangeTextContent(id, "changed by a worker", nullptr);
+        else if (call == QLatin1String("delete"))
+            result = View_DeleteWidgets(std::list<unsigned> { id });
+        else if (call == QLatin1String("hide"))
+            result = View_HideWidget(id, ITEM_SLASH_WHOLE);
+        else if (call == QLatin1String("switch"))
+            result = View_SwitchWindow(&w);
+        else if (call == QLatin1String("close"))
+            result = View_CloseWindow(A);
+        else if (call == QLatin1String("language"))
+            result = View_SetSysWndLang(1);
+    });
+    worker.join();
+    PanelFixture::settle();
+    QCOMPARE(result, -1);
+    QCOMPARE(GuiThreadGuard::refusedCount(), refusedBefore + 1); // one warning per refused call
+    // nothing changed: the widget, its text, its window, the registry
+    QCOMPARE(ViewManage::getInstance()->getItemById(id), static_cast<QQuickItem*>(text));
+    QVERIFY(!ViewManage::getInstance()->getItemById(id + 1));
+    QCOMPARE(text->text(), QStringLiteral("as made"));
+    QVERIFY(text->isVisible());
+    QVERIFY(ViewManage::getInstance()->windowManage()->findWindow(A));
+    QVERIFY(!ViewManage::getInstance()->windowManage()->findWindow(B));
+    QCOMPARE(ViewManage::getInstance()->findChildren<QObject*>().size(), itemsBefore);
+    // and the same call on the GUI thread still works
+    QCOMPARE(View_ChangeTextContent(id, "changed here", nullptr), 0);
+    QCOMPARE(text->text(), QStringLiteral("changed here"));
+    QCOMPARE(View_DeleteWidgets(std::list<unsigned> { id }), 0);
 }
 
 void tst_Windows::busy_bar_starts_and_stops()
