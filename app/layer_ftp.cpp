@@ -5,9 +5,25 @@
 #include "utils/ftpclientmanage.h"
 #include "utils/ftpservermanage.h"
 
+#include <QCoreApplication>
+#include <QThread>
+
 #include <qgui/ftp.h>
 
 namespace {
+/* The FTP service lives on the GUI thread (its events are sent there). A call from another thread is handed
+ * over and waits for its result: the service may be called from any thread. */
+template <typename Fn>
+int onGuiThread(Fn fn)
+{
+    QCoreApplication* app = QCoreApplication::instance();
+    if (!app || QThread::currentThread() == app->thread())
+        return fn();
+    int result = -1;
+    QMetaObject::invokeMethod(app, [&]() { result = fn(); }, Qt::BlockingQueuedConnection);
+    return result;
+}
+
 /* Paths must be valid UTF-8: a replaced character would name another file. Null and invalid give "". */
 QString pathOf(const char* text)
 {
@@ -16,11 +32,9 @@ QString pathOf(const char* text)
     const QByteArray raw(text);
     return QString::fromUtf8(raw).toUtf8() == raw ? GuiQtAdapt::Core::fromString(text) : QString();
 }
-} // namespace
 
-int Ftp_ConfigServer(const FtpServerPrm& prm)
+int configServer(const FtpServerPrm& prm)
 {
-    QGUI_LAYER_LOG("enable {} port {}", int(prm.enable), int(prm.port));
     FtpServerManage* server = FtpServerManage::getInstance();
     if (!prm.enable)
         return server->stop();
@@ -36,9 +50,8 @@ int Ftp_ConfigServer(const FtpServerPrm& prm)
     return server->start(s);
 }
 
-int Ftp_Connect(const FtpClientPrm& prm)
+FtpClient::Settings clientSettings(const FtpClientPrm& prm)
 {
-    QGUI_LAYER_LOG("client {}", int(prm.client));
     FtpClient::Settings c;
     c.host = GuiQtAdapt::Core::fromUtf8(prm.host);
     c.port = prm.port ? prm.port : 21;
@@ -47,40 +60,59 @@ int Ftp_Connect(const FtpClientPrm& prm)
     c.password = prm.password ? QByteArray(prm.password) : QByteArray();
     c.passive = prm.passive != 0;
     c.timeoutMs = prm.timeoutMs > 0 ? prm.timeoutMs : 15000;
-    return FtpClientManage::getInstance()->connectClient(prm.client, c);
+    return c;
+}
+
+FtpClientManage* clients()
+{
+    return FtpClientManage::getInstance();
+}
+} // namespace
+
+int Ftp_ConfigServer(const FtpServerPrm& prm)
+{
+    QGUI_LAYER_LOG("enable {} port {}", int(prm.enable), int(prm.port));
+    return onGuiThread([&]() { return configServer(prm); });
+}
+
+int Ftp_Connect(const FtpClientPrm& prm)
+{
+    QGUI_LAYER_LOG("client {}", int(prm.client));
+    const FtpClient::Settings c = clientSettings(prm);
+    return onGuiThread([&]() { return clients()->connectClient(prm.client, c); });
 }
 
 int Ftp_CheckState(unsigned char client)
 {
     QGUI_LAYER_TRACE("client {}", int(client));
-    return FtpClientManage::getInstance()->state(client);
+    return onGuiThread([&]() { return clients()->state(client); });
 }
 
 int Ftp_DisConnect(unsigned char client, bool wait)
 {
     QGUI_LAYER_LOG("client {} wait {}", int(client), wait);
-    return FtpClientManage::getInstance()->disconnectClient(client, wait);
+    return onGuiThread([&]() { return clients()->disconnectClient(client, wait); });
 }
 
 int Ftp_Put(unsigned char client, const char* localPath, const char* remotePath, bool overwrite)
 {
     QGUI_LAYER_LOG("client {}", int(client));
-    return FtpClientManage::getInstance()->put(
-        client, pathOf(localPath), pathOf(remotePath), overwrite);
+    const QString local = pathOf(localPath), remote = pathOf(remotePath);
+    return onGuiThread([&]() { return clients()->put(client, local, remote, overwrite); });
 }
 
 int Ftp_Pull(unsigned char client, const char* localPath, const char* remotePath, bool overwrite)
 {
     QGUI_LAYER_LOG("client {}", int(client));
-    return FtpClientManage::getInstance()->pull(
-        client, pathOf(localPath), pathOf(remotePath), overwrite);
+    const QString local = pathOf(localPath), remote = pathOf(remotePath);
+    return onGuiThread([&]() { return clients()->pull(client, local, remote, overwrite); });
 }
 
 int Ftp_TransferProgress(unsigned char client, long long* done, long long* total)
 {
     QGUI_LAYER_TRACE("client {}", int(client));
     qint64 d = 0, t = 0;
-    const int r = FtpClientManage::getInstance()->progress(client, &d, &t);
+    const int r = onGuiThread([&]() { return clients()->progress(client, &d, &t); });
     if (done)
         *done = r < 0 ? 0 : d;
     if (total)
@@ -91,5 +123,5 @@ int Ftp_TransferProgress(unsigned char client, long long* done, long long* total
 int removeClient(unsigned char client)
 {
     QGUI_LAYER_LOG("client {}", int(client));
-    return FtpClientManage::getInstance()->removeClient(client);
+    return onGuiThread([&]() { return clients()->removeClient(client); });
 }

@@ -4,7 +4,10 @@
  * Clients are numbered by the logic layer (FtpClientPrm::client). Each client
  * has a worker thread of its own: commands are queued and run one after the
  * other there, so no call blocks the GUI thread (Ftp_DisConnect with `wait`
- * excepted). Connection states and finished commands are reported with
+ * excepted). The calls may come from any thread: from another thread than
+ * the GUI thread a call is handed to the GUI thread and waits for its result
+ * there (so never make one while the GUI thread waits for the calling thread).
+ * Connection states and finished commands are reported with
  * EVT_FTP_STATE (int FtpState) and EVT_FTP_RESULT (View_EvtFtpResult), the
  * client number as id, on the GUI thread. Every accepted command ends with
  * exactly one EVT_FTP_RESULT, in the order the commands were given (removeClient

@@ -15,6 +15,11 @@
 #include <QTcpServer>
 #include <QTemporaryDir>
 
+#include <atomic>
+#include <string>
+#include <thread>
+#include <vector>
+
 namespace {
 
 constexpr int kTimeoutMs = 3000;
@@ -127,6 +132,7 @@ private slots:
     void serverKilledMidTransfer_data();
     void serverKilledMidTransfer();
     void disconnectDuringTransfer();
+    void callsFromOtherThreads();
     void panelServer();
     void panelServerRefusals_data();
     void panelServerRefusals();
@@ -472,6 +478,47 @@ void tst_Ftp::disconnectDuringTransfer()
     QTest::qWait(500);
     QCOMPARE(g_results.size() + g_states.size(), before);
     QCOMPARE(Ftp_CheckState(6), -1);
+}
+
+void tst_Ftp::callsFromOtherThreads()
+{
+    // four threads of the logic layer drive a client each at the same time; the events still come on the
+    // GUI thread (onEvent counts any that do not), one per command
+    const QString file = m_local.filePath(QStringLiteral("threads.bin"));
+    writeRandom(file, 256 * 1024);
+    const QByteArray ef = QFile::encodeName(file);
+    std::atomic<int> finished { 0 };
+    std::atomic<int> refused { 0 };
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 4; ++i) {
+        threads.emplace_back([&, i]() {
+            const unsigned char client = static_cast<unsigned char>(10 + i);
+            const std::string remote = "threads/t" + std::to_string(i) + ".bin";
+            if (Ftp_Connect(clientPrm(client, m_server->port(), kUser.constData(), kPassword.constData())) != 0)
+                ++refused;
+            for (int n = 0; n < 5; ++n) {
+                if (Ftp_Put(client, ef.constData(), remote.c_str(), true) != 0)
+                    ++refused;
+                long long done = 0;
+                if (Ftp_TransferProgress(client, &done, nullptr) < 0 || Ftp_CheckState(client) < 0)
+                    ++refused;
+            }
+            ++finished;
+        });
+    }
+    QVERIFY(QTest::qWaitFor([&]() { return finished.load() == 4; }, 30000)); // the GUI thread keeps running
+    for (std::thread& t : threads)
+        t.join();
+    QCOMPARE(refused.load(), 0);
+    for (unsigned c = 10; c < 14; ++c) {
+        QVERIFY(waitResults(c, 6));
+        for (const Result& r : resultsOf(c))
+            QCOMPARE(r.error, int(FTP_OK));
+        QCOMPARE(digest(m_server->root() + QStringLiteral("/threads/t") + QString::number(c - 10)
+                     + QStringLiteral(".bin")),
+            digest(file));
+        QCOMPARE(removeClient(static_cast<unsigned char>(c)), 0);
+    }
 }
 
 void tst_Ftp::panelServer()
