@@ -223,9 +223,16 @@ int FtpServerManage::stop()
     QProcess* p = m_process;
     m_process = nullptr;
     if (p->state() != QProcess::NotRunning) {
-        // open sessions are processes of their own: they end with the listener
-        for (qint64 child : descendants(p->processId()))
-            ::kill(pid_t(child), SIGKILL);
+        // open sessions are processes of their own: they end first, and the listener, still running, collects
+        // them (orphans left to a process 1 that never collects them would stay as zombies)
+        // the deepest first, so that each one's parent is there to collect it
+        const QList<qint64> sessions = descendants(p->processId());
+        QDeadlineTimer collected(1000);
+        for (auto it = sessions.crbegin(); it != sessions.crend(); ++it) {
+            ::kill(pid_t(*it), SIGKILL);
+            while (!collected.hasExpired() && ::kill(pid_t(*it), 0) == 0)
+                QThread::msleep(5);
+        }
         p->terminate();
         if (!p->waitForFinished(2000)) {
             p->kill();
