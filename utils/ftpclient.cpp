@@ -118,9 +118,10 @@ QByteArray FtpClient::url(const QString& remote) const
 {
     QByteArray u = "ftp://";
     const QString host = m_settings.host.trimmed();
-    u += host.contains(QLatin1Char(':')) ? '[' + QUrl::toAce(host) + ']' : QUrl::toAce(host);
-    if (u.size() == 6) // toAce refuses some names; hand curl the text as it is
-        u += host.toUtf8();
+    QByteArray name = QUrl::toAce(host);
+    if (name.isEmpty()) // addresses and names toAce refuses go to curl as they are
+        name = host.toUtf8();
+    u += host.contains(QLatin1Char(':')) ? '[' + name + ']' : name; // an IPv6 address in brackets
     u += ':' + QByteArray::number(m_settings.port) + '/';
     QString path = remote;
     if (path.startsWith(QLatin1Char('/')))

@@ -7,6 +7,7 @@
 #include "common/pyftpserver.h"
 #include "config/projectmanage.h"
 #include "platform/logiclayercaller.h"
+#include "utils/ftpclient.h"
 #include "utils/ftpservermanage.h"
 
 #include <QCryptographicHash>
@@ -124,6 +125,8 @@ private slots:
     void initTestCase();
     void init();
     void cleanup();
+    void urls_data();
+    void urls();
     void connectOutcome_data();
     void connectOutcome();
     void refusedCalls_data();
@@ -167,6 +170,32 @@ void tst_Ftp::cleanup()
     for (int c = 1; c < 8; ++c)
         removeClient(c);
     QCOMPARE(g_offThread, 0);
+}
+
+void tst_Ftp::urls_data()
+{
+    QTest::addColumn<QString>("host");
+    QTest::addColumn<QString>("remote");
+    QTest::addColumn<QByteArray>("url");
+
+    QTest::newRow("IPv4, relative") << "127.0.0.1" << "logs/a b.txt" << QByteArray("ftp://127.0.0.1:21/logs/a%20b.txt");
+    QTest::newRow("IPv6") << "::1" << "x" << QByteArray("ftp://[::1]:21/x");
+    QTest::newRow("name, absolute") << " panel.example " << "/var/x" << QByteArray("ftp://panel.example:21/%2Fvar/x");
+    QTest::newRow("international name") << "bücher.example" << "x"
+                                        << QByteArray("ftp://xn--bcher-kva.example:21/x");
+    QTest::newRow("UTF-8 path, # and ?") << "h" << "报表/#1?.csv"
+                                        << QByteArray("ftp://h:21/%E6%8A%A5%E8%A1%A8/%231%3F.csv");
+}
+
+void tst_Ftp::urls()
+{
+    QFETCH(QString, host);
+    QFETCH(QString, remote);
+    QFETCH(QByteArray, url);
+    FtpClient::Settings s;
+    s.host = host;
+    FtpClient client(s);
+    QCOMPARE(client.url(remote), url);
 }
 
 void tst_Ftp::connectOutcome_data()
