@@ -1,6 +1,7 @@
 // Exports: the FTP client family.
 #include "app/layerlog.h"
 #include "platform/guiqtadaptcore.h"
+#include "platform/threadhandoff.h"
 #include "config/projectmanage.h"
 #include "utils/ftpclientmanage.h"
 #include "utils/ftpservermanage.h"
@@ -8,20 +9,34 @@
 #include <QCoreApplication>
 #include <QThread>
 
+#include <future>
+
 #include <qgui/ftp.h>
 
 namespace {
 /* The FTP service lives on the GUI thread (its events are sent there). A call from another thread is handed
- * over and waits for its result: the service may be called from any thread. */
+ * over and waits for its result: the service may be called from any thread. A call the GUI thread never runs
+ * (the application is going away) answers -1. */
 template <typename Fn>
 int onGuiThread(Fn fn)
 {
     QCoreApplication* app = QCoreApplication::instance();
     if (!app || QThread::currentThread() == app->thread())
         return fn();
-    int result = -1;
-    QMetaObject::invokeMethod(app, [&]() { result = fn(); }, Qt::BlockingQueuedConnection);
-    return result;
+    std::promise<int> promise;
+    std::future<int> answer = promise.get_future();
+    QMetaObject::invokeMethod(
+        app,
+        [&fn, promise = std::move(promise), h = qgui::HandOff()]() mutable {
+            h.take();
+            promise.set_value(fn());
+        },
+        Qt::QueuedConnection);
+    try {
+        return answer.get();
+    } catch (const std::future_error&) {
+        return -1; // dropped with the event queue
+    }
 }
 
 /* Paths must be valid UTF-8: a replaced character would name another file. Null and invalid give "". */

@@ -16,14 +16,14 @@ DbConn_Pool* DbConn_Pool::instance()
 
 void DbConn_Pool::loginInfo(unsigned dbNo, const DbInfo& info)
 {
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     m_infos.insert(dbNo, info);
     ++m_generation[dbNo];
 }
 
 bool DbConn_Pool::contains(unsigned dbNo) const
 {
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     return m_infos.contains(dbNo);
 }
 
@@ -40,7 +40,7 @@ QSqlDatabase DbConn_Pool::pull(unsigned dbNo)
     bool current = false;
     quint64 generation = 0;
     {
-        QMutexLocker lock(&m_mutex);
+        std::lock_guard<std::mutex> lock(m_mutex);
         auto it = m_infos.constFind(dbNo);
         if (it != m_infos.constEnd()) {
             known = true;
@@ -59,7 +59,7 @@ QSqlDatabase DbConn_Pool::pull(unsigned dbNo)
         QSqlDatabase::removeDatabase(name); // opened with replaced login data
     }
     QSqlDatabase db = open(dbNo, name, info);
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     m_connections.insert(name, generation);
     return db;
 }
@@ -102,7 +102,7 @@ void DbConn_Pool::removeAll()
 {
     QList<QString> names;
     {
-        QMutexLocker lock(&m_mutex);
+        std::lock_guard<std::mutex> lock(m_mutex);
         names = m_connections.keys();
         m_connections.clear();
     }

@@ -2,7 +2,7 @@
 #define DBCONN_POOL_H
 
 #include <QHash>
-#include <QMutex>
+#include <mutex>
 #include <QSqlDatabase>
 #include <QString>
 
@@ -49,7 +49,7 @@ private:
     DbConn_Pool() = default;
     QSqlDatabase open(unsigned dbNo, const QString& name, const DbInfo& info);
 
-    mutable QMutex m_mutex;
+    mutable std::mutex m_mutex;
     QHash<unsigned, DbInfo> m_infos;
     QHash<unsigned, quint64> m_generation; ///< bumped by every loginInfo of a number
     QHash<QString, quint64> m_connections; ///< connection name -> generation it was opened with

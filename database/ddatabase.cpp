@@ -2,6 +2,7 @@
 
 #include "database/dbconn_pool.h"
 #include "platform/nlogger.h"
+#include "platform/threadhandoff.h"
 
 #include <QSqlDriver>
 #include <QSqlError>
@@ -9,7 +10,9 @@
 #include <QSqlRecord>
 #include <QThread>
 #include <QThreadPool>
-#include <QtConcurrent>
+#include <QVariant>
+
+#include <future>
 
 namespace xDatabase {
 
@@ -81,16 +84,12 @@ DDatabase::DDatabase(unsigned dbNo, QThreadPool* pool, DbResultCallBack callBack
     , m_pool(pool)
     , m_callBack(std::move(callBack))
 {
-    connect(&m_selectWatcher, &QFutureWatcherBase::finished, this, &DDatabase::onSelectFinished);
-    connect(&m_queryWatcher, &QFutureWatcherBase::finished, this, &DDatabase::onQueryFinished);
 }
 
 DDatabase::~DDatabase()
 {
-    // Pending finished signals die with the watchers; jobs still running keep their
-    // own copies of the request and touch nothing of this object.
-    m_selectWatcher.disconnect(this);
-    m_queryWatcher.disconnect(this);
+    // Destroyed once the pool has no job of this database left (db_close waits for them); a finished
+    // job's notice still in the event queue goes with this object.
 }
 
 void DDatabase::setCallBack(DbResultCallBack callBack)
@@ -100,13 +99,13 @@ void DDatabase::setCallBack(DbResultCallBack callBack)
 
 int DDatabase::readQueueLength() const
 {
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     return m_readLength;
 }
 
 int DDatabase::writeQueueLength() const
 {
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     return m_writeLength;
 }
 
@@ -115,7 +114,7 @@ void DDatabase::query(unsigned queryId, std::list<std::string> sqls, bool read)
     bool refused = false;
     bool start = false;
     {
-        QMutexLocker lock(&m_mutex);
+        std::lock_guard<std::mutex> lock(m_mutex);
         if (m_closed)
             return;
         int& length = read ? m_readLength : m_writeLength;
@@ -141,7 +140,7 @@ void DDatabase::query(unsigned queryId, std::list<std::string> sqls, bool read)
             deliver(r);
         else
             QMetaObject::invokeMethod(
-                this, [this, r]() mutable { deliver(r); }, Qt::QueuedConnection);
+                this, [this, r, h = qgui::HandOff()]() mutable { h.take(); deliver(r); }, Qt::QueuedConnection);
         return;
     }
     if (!start)
@@ -156,22 +155,32 @@ void DDatabase::query(unsigned queryId, std::list<std::string> sqls, bool read)
 DbQueryResult DDatabase::querySync(std::list<std::string> sqls, bool read)
 {
     {
-        QMutexLocker lock(&m_mutex);
+        std::lock_guard<std::mutex> lock(m_mutex);
         if (m_closed)
             return DbQueryResult();
     }
     const unsigned dbNo = m_dbNo;
-    DQuery q { 0, std::move(sqls) };
-    if (read)
-        return QtConcurrent::run(m_pool, [dbNo, q] { return doSelect(dbNo, q); }).result();
-    const QList<DbQueryResult> results
-        = QtConcurrent::run(m_pool, [dbNo, q] { return doQuery(dbNo, QList<DQuery> { q }); }).result();
-    return results.isEmpty() ? DbQueryResult() : results.first();
+    auto promise = std::make_shared<std::promise<DbQueryResult>>();
+    std::future<DbQueryResult> answer = promise->get_future();
+    m_pool->start([dbNo, q = DQuery { 0, std::move(sqls) }, read, promise, h = qgui::HandOff()] {
+        h.take();
+        if (read) {
+            promise->set_value(doSelect(dbNo, q));
+            return;
+        }
+        const QList<DbQueryResult> results = doQuery(dbNo, QList<DQuery> { q });
+        promise->set_value(results.isEmpty() ? DbQueryResult() : results.first());
+    });
+    try {
+        return answer.get();
+    } catch (const std::future_error&) {
+        return DbQueryResult(); // the pool dropped the job (db_close)
+    }
 }
 
 void DDatabase::close()
 {
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     m_closed = true;
     m_readQueue.clear();
     m_writeQueue.clear();
@@ -181,18 +190,22 @@ void DDatabase::close()
 
 void DDatabase::deliverFinished()
 {
-    if (m_readInFlight && m_selectWatcher.future().isFinished()) {
-        m_readInFlight = false;
-        m_readRunning = false;
-        std::shared_ptr<DbQueryResult> r = m_selectWatcher.result();
-        deliver(*r);
+    if (m_readInFlight) {
+        if (std::shared_ptr<DbQueryResult> r = takeRead()) {
+            m_readInFlight = false;
+            m_readRunning = false;
+            deliver(*r);
+        }
     }
-    if (m_writeInFlight && m_queryWatcher.future().isFinished()) {
-        m_writeInFlight = false;
-        m_writeRunning = false;
-        QList<DbQueryResult> results = m_queryWatcher.result();
-        for (DbQueryResult& r : results)
-            deliver(r);
+    if (m_writeInFlight) {
+        bool done = false;
+        QList<DbQueryResult> results = takeWrites(&done);
+        if (done) {
+            m_writeInFlight = false;
+            m_writeRunning = false;
+            for (DbQueryResult& r : results)
+                deliver(r);
+        }
     }
 }
 
@@ -218,7 +231,7 @@ void DDatabase::watchSelect()
 {
     DQuery q;
     {
-        QMutexLocker lock(&m_mutex);
+        std::lock_guard<std::mutex> lock(m_mutex);
         if (m_closed || m_readQueue.empty()) {
             m_readRunning = false;
             return;
@@ -229,15 +242,22 @@ void DDatabase::watchSelect()
     }
     const unsigned dbNo = m_dbNo;
     m_readInFlight = true;
-    m_selectWatcher.setFuture(QtConcurrent::run(
-        m_pool, [dbNo, q = std::move(q)] { return std::make_shared<DbQueryResult>(doSelect(dbNo, q)); }));
+    m_pool->start([this, dbNo, q = std::move(q), outcome = m_outcome, h = qgui::HandOff()] {
+        h.take();
+        auto r = std::make_shared<DbQueryResult>(doSelect(dbNo, q));
+        {
+            std::lock_guard<std::mutex> lock(outcome->mutex);
+            outcome->read = std::move(r);
+        }
+        QMetaObject::invokeMethod(this, &DDatabase::onSelectFinished, Qt::QueuedConnection);
+    });
 }
 
 void DDatabase::watchQuery()
 {
     QList<DQuery> batch;
     {
-        QMutexLocker lock(&m_mutex);
+        std::lock_guard<std::mutex> lock(m_mutex);
         if (m_closed || m_writeQueue.empty()) {
             m_writeRunning = false;
             return;
@@ -250,8 +270,16 @@ void DDatabase::watchQuery()
     }
     const unsigned dbNo = m_dbNo;
     m_writeInFlight = true;
-    m_queryWatcher.setFuture(
-        QtConcurrent::run(m_pool, [dbNo, batch = std::move(batch)] { return doQuery(dbNo, batch); }));
+    m_pool->start([this, dbNo, batch = std::move(batch), outcome = m_outcome, h = qgui::HandOff()] {
+        h.take();
+        QList<DbQueryResult> results = doQuery(dbNo, batch);
+        {
+            std::lock_guard<std::mutex> lock(outcome->mutex);
+            outcome->writes = std::move(results);
+            outcome->writesDone = true;
+        }
+        QMetaObject::invokeMethod(this, &DDatabase::onQueryFinished, Qt::QueuedConnection);
+    });
 }
 
 void DDatabase::onSelectFinished()
@@ -259,9 +287,24 @@ void DDatabase::onSelectFinished()
     if (!m_readInFlight)
         return; // already answered by deliverFinished()
     m_readInFlight = false;
-    std::shared_ptr<DbQueryResult> r = m_selectWatcher.result();
-    deliver(*r);
+    if (std::shared_ptr<DbQueryResult> r = takeRead())
+        deliver(*r);
     watchSelect(); // the next reading request, if any
+}
+
+std::shared_ptr<DbQueryResult> DDatabase::takeRead()
+{
+    std::lock_guard<std::mutex> lock(m_outcome->mutex);
+    return std::move(m_outcome->read);
+}
+
+QList<DbQueryResult> DDatabase::takeWrites(bool* done)
+{
+    std::lock_guard<std::mutex> lock(m_outcome->mutex);
+    if (done)
+        *done = m_outcome->writesDone;
+    m_outcome->writesDone = false;
+    return std::move(m_outcome->writes);
 }
 
 void DDatabase::onQueryFinished()
@@ -269,7 +312,7 @@ void DDatabase::onQueryFinished()
     if (!m_writeInFlight)
         return;
     m_writeInFlight = false;
-    QList<DbQueryResult> results = m_queryWatcher.result();
+    QList<DbQueryResult> results = takeWrites(nullptr);
     for (DbQueryResult& r : results)
         deliver(r);
     watchQuery(); // requests that came in meanwhile form the next batch

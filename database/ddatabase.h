@@ -3,13 +3,12 @@
 
 #include <qgui/xdatabase.h>
 
-#include <QFutureWatcher>
 #include <QList>
-#include <QMutex>
 #include <QObject>
 
 #include <deque>
 #include <memory>
+#include <mutex>
 
 class QThreadPool;
 
@@ -27,8 +26,9 @@ struct DQuery {
  * Reads run one at a time in queue order; writes waiting at the same moment run as
  * one batch. Jobs run on the shared worker pool; their results are handed to the
  * callback on the thread that owns this object (the one that created it), through
- * the watchers' finished signals. The mutex guards the queues and the running flags
- * and is never held while a statement runs or the callback is called.
+ * a notice each job queues when it is done; a job leaves its result in an Outcome
+ * shared with this object. This object outlives its jobs (db_close waits for the pool). The mutex guards the queues and the running flags and is never held
+ * while a statement runs or the callback is called.
  */
 class DDatabase : public QObject {
     Q_OBJECT
@@ -72,12 +72,23 @@ private:
     void onSelectFinished();
     void onQueryFinished();
     void deliver(DbQueryResult& result);
+    std::shared_ptr<DbQueryResult> takeRead();
+    QList<DbQueryResult> takeWrites(bool* done);
 
     const unsigned m_dbNo;
     QThreadPool* const m_pool;
     DbResultCallBack m_callBack;
 
-    mutable QMutex m_mutex;
+    /** Where the jobs leave their results: shared, so that a job still running when this object goes
+     *  writes into memory that is still there. */
+    struct Outcome {
+        std::mutex mutex;
+        std::shared_ptr<DbQueryResult> read; ///< by pointer: rows are not copied
+        QList<DbQueryResult> writes;
+        bool writesDone = false;
+    };
+
+    mutable std::mutex m_mutex;
     std::deque<DQuery> m_readQueue;
     std::deque<DQuery> m_writeQueue;
     int m_readLength = 0;
@@ -85,11 +96,10 @@ private:
     bool m_readRunning = false; ///< a read job is running or its result is not yet handed over
     bool m_writeRunning = false; ///< the same for a write batch
     bool m_closed = false;
-    bool m_readInFlight = false; ///< owner thread only: the select watcher holds an unanswered job
+    bool m_readInFlight = false; ///< owner thread only: a read job runs or its result is not yet answered
     bool m_writeInFlight = false; ///< owner thread only: the same for the write batch
 
-    QFutureWatcher<std::shared_ptr<DbQueryResult>> m_selectWatcher; ///< by pointer: rows are not copied
-    QFutureWatcher<QList<DbQueryResult>> m_queryWatcher;
+    const std::shared_ptr<Outcome> m_outcome = std::make_shared<Outcome>();
 };
 
 } // namespace xDatabase

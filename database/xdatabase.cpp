@@ -5,7 +5,7 @@
 #include "platform/nlogger.h"
 
 #include <QHash>
-#include <QMutex>
+#include <mutex>
 #include <QThread>
 #include <QThreadPool>
 
@@ -20,7 +20,7 @@ namespace {
  * handed out as a shared pointer so that a call on another thread never meets a deleted
  * one during db_close. */
 struct Module {
-    QMutex mutex;
+    std::mutex mutex;
     QHash<unsigned, std::shared_ptr<DDatabase>> databases;
     QThreadPool* pool = nullptr;
 };
@@ -57,7 +57,7 @@ void deleteDatabase(DDatabase* d)
 std::shared_ptr<DDatabase> find(unsigned dbNo)
 {
     Module& m = module();
-    QMutexLocker lock(&m.mutex);
+    std::lock_guard<std::mutex> lock(m.mutex);
     return m.databases.value(dbNo);
 }
 
@@ -88,7 +88,7 @@ void db_init(std::list<DbConnInfo>& infos, DbResultCallBack callBack)
         d.port = info.port;
         DbConn_Pool::instance()->loginInfo(info.dbNo, d);
 
-        QMutexLocker lock(&m.mutex);
+        std::lock_guard<std::mutex> lock(m.mutex);
         auto it = m.databases.find(info.dbNo);
         if (it != m.databases.end()) {
             (*it)->setCallBack(callBack); // waiting requests are kept
@@ -136,7 +136,7 @@ void db_close()
     QHash<unsigned, std::shared_ptr<DDatabase>> databases;
     QThreadPool* pool = nullptr;
     {
-        QMutexLocker lock(&m.mutex);
+        std::lock_guard<std::mutex> lock(m.mutex);
         databases.swap(m.databases);
         pool = m.pool;
         m.pool = nullptr;

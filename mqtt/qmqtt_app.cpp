@@ -3,6 +3,7 @@
 #include "mqtt/xmqttclient.h"
 #include "platform/logiclayercaller.h"
 #include "platform/nlogger.h"
+#include "platform/threadhandoff.h"
 
 #include <qgui/events.h>
 #include <qgui/mqtt.h>
@@ -18,14 +19,15 @@ namespace {
 
 constexpr unsigned kMaxHandle = 0xFFFFFFFFu;
 
-QMutex g_instanceMutex;
+std::mutex g_instanceMutex;
 QMqtt_App* g_instance = nullptr;
 
 /* Sends an event to the logic layer on the GUI thread. Called on any thread (Paho's
  * included); carries values only. */
 void postEvent(unsigned handle, int code, int value)
 {
-    auto send = [handle, code, value] {
+    auto send = [handle, code, value, h = qgui::HandOff()] {
+        h.take();
         // View_EvtMqttState and View_EvtMqttError share this layout
         View_EvtMqttState data { handle, value };
         LogicLayerCaller::call(handle, code, &data);
@@ -40,7 +42,7 @@ void postEvent(unsigned handle, int code, int value)
 
 QMqtt_App* QMqtt_App::instance()
 {
-    QMutexLocker lock(&g_instanceMutex);
+    std::lock_guard<std::mutex> lock(g_instanceMutex);
     if (!g_instance) {
         g_instance = new QMqtt_App;
         qAddPostRoutine(&QMqtt_App::destroyInstance);
@@ -52,7 +54,7 @@ void QMqtt_App::destroyInstance()
 {
     QMqtt_App* app = nullptr;
     {
-        QMutexLocker lock(&g_instanceMutex);
+        std::lock_guard<std::mutex> lock(g_instanceMutex);
         app = g_instance;
         g_instance = nullptr;
     }
@@ -66,7 +68,7 @@ QMqtt_App::QMqtt_App() = default;
 
 QMqtt_App::~QMqtt_App()
 {
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     for (XMqttClient* c : qAsConst(m_clients))
         destroy(c);
     m_clients.clear();
@@ -76,13 +78,24 @@ QMqtt_App::~QMqtt_App()
 XMqttClient* QMqtt_App::create(unsigned handle)
 {
     QCoreApplication* app = QCoreApplication::instance();
-    if (app && !m_network) {
-        QT_WARNING_PUSH
-        QT_WARNING_DISABLE_DEPRECATED
-        m_network = new QNetworkConfigurationManager;
-        QT_WARNING_POP
-        if (m_network->thread() != app->thread())
-            m_network->moveToThread(app->thread());
+    if (app && !m_networkAsked) {
+        // the network watcher lives on the GUI thread and is made there (it starts threads of its own)
+        m_networkAsked = true;
+        if (QThread::currentThread() == app->thread()) {
+            watchNetwork();
+        } else {
+            QPointer<QMqtt_App> self(this);
+            QMetaObject::invokeMethod(
+                app,
+                [self, h = qgui::HandOff()] {
+                    h.take();
+                    if (self) {
+                        std::lock_guard<std::mutex> lock(self->m_mutex);
+                        self->watchNetwork();
+                    }
+                },
+                Qt::QueuedConnection);
+        }
     }
 
     auto* c = new XMqttClient;
@@ -106,27 +119,32 @@ XMqttClient* QMqtt_App::create(unsigned handle)
         [self, c] {
             if (!self)
                 return;
-            QMutexLocker lock(&self->m_mutex);
+            std::lock_guard<std::mutex> lock(self->m_mutex);
             c->scheduleRetry();
         },
         Qt::QueuedConnection);
     connect(c, &XMqttClient::retryDue, c, [self, c](quint64 generation) {
         if (!self)
             return;
-        QMutexLocker lock(&self->m_mutex);
+        std::lock_guard<std::mutex> lock(self->m_mutex);
         c->retryConnect(generation);
     });
-    if (m_network) {
-        QT_WARNING_PUSH
-        QT_WARNING_DISABLE_DEPRECATED
-        connect(m_network, &QNetworkConfigurationManager::onlineStateChanged, c, [this, c](bool online) {
-            QMutexLocker lock(&m_mutex);
-            c->onlineStateChanged(online);
-        });
-        QT_WARNING_POP
-    }
     m_clients.insert(handle, c);
     return c;
+}
+
+void QMqtt_App::watchNetwork()
+{
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    auto* network = new QNetworkConfigurationManager;
+    connect(network, &QNetworkConfigurationManager::onlineStateChanged, network, [this](bool online) {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        for (XMqttClient* c : qAsConst(m_clients))
+            c->onlineStateChanged(online);
+    });
+    QT_WARNING_POP
+    m_network = network;
 }
 
 void QMqtt_App::destroy(XMqttClient* c)
@@ -141,7 +159,7 @@ void QMqtt_App::destroy(XMqttClient* c)
 
 unsigned QMqtt_App::createClient(unsigned handle)
 {
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     if (handle == 0) {
         handle = 1;
         while (m_clients.contains(handle)) {
@@ -161,7 +179,7 @@ void QMqtt_App::connectClient(unsigned handle, const QString& host, quint16 port
     bool secure, quint16 word)
 {
     Q_UNUSED(word) // reserved with the logic layer
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     if (handle == 0) {
         NLog::NLogger::instance()->logger()->warn("Mqtt_Connect: handle 0 is not a client");
         return;
@@ -190,35 +208,35 @@ void QMqtt_App::connectClient(unsigned handle, const QString& host, quint16 port
 
 void QMqtt_App::disconnectClient(unsigned handle, bool force)
 {
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     if (XMqttClient* c = m_clients.value(handle))
         c->disconnectFromHost(force);
 }
 
 void QMqtt_App::reconnectClient(unsigned handle)
 {
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     if (XMqttClient* c = m_clients.value(handle))
         c->connectToHost();
 }
 
 int QMqtt_App::checkState(unsigned handle)
 {
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     XMqttClient* c = m_clients.value(handle);
     return c ? int(c->state()) : -1;
 }
 
 void QMqtt_App::setVersion(unsigned handle, int version)
 {
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     if (XMqttClient* c = m_clients.value(handle))
         c->setProtocolVersion(version);
 }
 
 int QMqtt_App::publish(unsigned handle, const char* topic, const char* payload, int qos, bool retain)
 {
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     XMqttClient* c = m_clients.value(handle);
     int rc = -1;
     if (c && topic) {
@@ -234,14 +252,14 @@ int QMqtt_App::publish(unsigned handle, const char* topic, const char* payload, 
 
 std::string QMqtt_App::clientId(unsigned handle)
 {
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     XMqttClient* c = m_clients.value(handle);
     return c ? c->clientId().toStdString() : std::string();
 }
 
 bool QMqtt_App::removeClient(unsigned handle)
 {
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     XMqttClient* c = m_clients.take(handle);
     if (!c)
         return false;
@@ -251,7 +269,7 @@ bool QMqtt_App::removeClient(unsigned handle)
 
 int QMqtt_App::clientCount()
 {
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     return m_clients.size();
 }
 

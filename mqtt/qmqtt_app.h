@@ -2,7 +2,7 @@
 #define QMQTT_APP_H
 
 #include <QHash>
-#include <QMutex>
+#include <mutex>
 #include <QObject>
 #include <QString>
 
@@ -56,10 +56,14 @@ private:
     ~QMqtt_App() override;
     XMqttClient* create(unsigned handle);
     void destroy(XMqttClient* client);
+    /** Makes the network watcher (GUI thread, mutex held): a network that comes back retries the long
+     *  connections. */
+    void watchNetwork();
 
-    QMutex m_mutex;
+    std::mutex m_mutex;
     QHash<unsigned, XMqttClient*> m_clients;
     QNetworkConfigurationManager* m_network = nullptr;
+    bool m_networkAsked = false; ///< under the mutex: the watcher is made or on its way
 };
 
 } // namespace MQTT

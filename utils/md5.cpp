@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
+#include <mutex>
 
 namespace {
 
@@ -191,10 +192,15 @@ void MD5::get_md5_hash(const uint8_t* data, size_t length, uint8_t digest[16])
 
 void MD5::hide(const uint8_t digest[16], uint8_t block[64], const uint8_t* w, const uint8_t* r)
 {
-    // Seeded per second on purpose: the same password in the same second gives the same block.
-    std::srand(unsigned(std::time(nullptr)));
-    for (int i = 0; i < 64; ++i)
-        block[i] = uint8_t(std::rand());
+    // Seeded per second on purpose: the same password in the same second gives the same block, also when
+    // several threads make blocks at once (the seed and its draws are taken together).
+    {
+        static std::mutex drawing;
+        std::lock_guard<std::mutex> lock(drawing);
+        std::srand(unsigned(std::time(nullptr)));
+        for (int i = 0; i < 64; ++i)
+            block[i] = uint8_t(std::rand());
+    }
     for (int i = 0; i < 16; ++i)
         block[w[i]] = uint8_t(block[r[i]] * i + digest[i]);
 }

@@ -2,15 +2,14 @@
 
 #include "platform/nlogger.h"
 
-#include <QMutex>
-#include <QMutexLocker>
+#include <mutex>
 
 #include <atomic>
 
 namespace Utils {
 
 namespace {
-QMutex g_mutex;
+std::mutex g_mutex;
 QString g_last;
 std::atomic<int> g_count { 0 };
 } // namespace
@@ -19,7 +18,7 @@ void writeAssertLocation(const char* msg)
 {
     const QString text = QString::fromUtf8(msg ? msg : "");
     {
-        QMutexLocker lock(&g_mutex);
+        std::lock_guard<std::mutex> lock(g_mutex);
         g_last = text;
     }
     ++g_count;
@@ -28,7 +27,7 @@ void writeAssertLocation(const char* msg)
 
 QString lastAssertLocation()
 {
-    QMutexLocker lock(&g_mutex);
+    std::lock_guard<std::mutex> lock(g_mutex);
     return g_last;
 }
 
@@ -40,7 +39,7 @@ int assertCount()
 void resetAssertCount()
 {
     g_count = 0;
-    QMutexLocker lock(&g_mutex);
+    std::lock_guard<std::mutex> lock(g_mutex);
     g_last.clear();
 }
 

@@ -9,6 +9,8 @@
 #include <QRandomGenerator>
 
 #include <ctime>
+#include <thread>
+#include <vector>
 
 namespace {
 
@@ -56,6 +58,7 @@ private Q_SLOTS:
     void block_of_a_password_passes_and_others_fail_data();
     void block_of_a_password_passes_and_others_fail();
     void blocks_of_different_seconds_differ_and_both_pass();
+    void blocks_made_by_threads_at_once_are_the_same_within_a_second();
     void every_hidden_digest_byte_counts();
     void decrypt_recovers_the_digest_of_the_normalised_password();
     void i2c_blocks_are_ordinary_blocks();
@@ -175,6 +178,30 @@ void tst_PasswordBlocks::blocks_of_different_seconds_differ_and_both_pass()
     QVERIFY(second != first);
     QCOMPARE(check("secret", first), 1);
     QCOMPARE(check("secret", second), 1);
+}
+
+void tst_PasswordBlocks::blocks_made_by_threads_at_once_are_the_same_within_a_second()
+{
+    // the seed and its draws belong together: a thread seeding in between must not mix two blocks
+    for (int attempt = 0; attempt < 5; ++attempt) {
+        QVERIFY(waitForNextSecond());
+        const std::time_t t = std::time(nullptr);
+        std::vector<QByteArray> blocks(8);
+        std::vector<std::thread> threads;
+        for (size_t i = 0; i < blocks.size(); ++i)
+            threads.emplace_back([&blocks, i]() {
+                for (int n = 0; n < 200; ++n)
+                    blocks[i] = block("shift-lead");
+            });
+        for (std::thread& th : threads)
+            th.join();
+        if (std::time(nullptr) != t)
+            continue; // crossed into the next second: try again
+        for (const QByteArray& b : blocks)
+            QCOMPARE(b, blocks.front());
+        return;
+    }
+    QSKIP("every attempt crossed a second");
 }
 
 void tst_PasswordBlocks::every_hidden_digest_byte_counts()
