@@ -40,8 +40,12 @@ int ViewManage::View_CreatePdf(const View_Pdf* rec, unsigned int windowId)
     auto* view = new XPdfView(window);
     view->setDisplayMode(rec->displayMode); // unknown modes: a single page
     view->setZoom(int(qMin<U32>(rec->zoom, XPdfView::kMaxZoom)));
-    if (rec->showToolBar)
-        XQmlComponentManage::getInstance()->createItem(kToolBarUrl, view, { { QStringLiteral("view"), QVariant::fromValue(view) } });
+    if (rec->showToolBar) {
+        QQuickItem* bar = XQmlComponentManage::getInstance()->createItem(
+            kToolBarUrl, view, { { QStringLiteral("view"), QVariant::fromValue(view) } });
+        if (bar)
+            bar->setParent(view); // deleted with the view
+    }
     placeWidget(view, rec, windowId);
     // the file opens on the render thread; 2561 reports how it went
     view->setSource(Core::fromUtf8(rec->path), int(qMin<U32>(rec->page, INT_MAX)));

@@ -16,6 +16,7 @@
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QQuickItem>
+#include <QPointer>
 #include <QTimer>
 
 namespace {
@@ -33,11 +34,20 @@ int ViewManage::View_CreateDesktop(const Size& size, unsigned int desktopNo)
     }
     // the keyboard is made (hidden) while the panel is idle, so that the operator's first touch on a
     // field opens it at once instead of compiling it then
-    QTimer::singleShot(kKeyboardPrepareMs, this, [] {
-        PanelHost* host = PanelHost::getInstance();
-        if (QQuickItem* root = host ? host->getGuiRect() : nullptr)
-            VirtualKeyboardManager::instance()->init(root);
-    });
+    // (once: desktops made in quick succession share the one preparation, which goes with this object)
+    static QPointer<QTimer> preparing;
+    if (!preparing && !VirtualKeyboardManager::instance()->isInitialised()) {
+        auto* timer = new QTimer(this);
+        timer->setSingleShot(true);
+        preparing = timer;
+        connect(timer, &QTimer::timeout, this, [timer] {
+            timer->deleteLater();
+            PanelHost* host = PanelHost::getInstance();
+            if (QQuickItem* root = host ? host->getGuiRect() : nullptr)
+                VirtualKeyboardManager::instance()->init(root);
+        });
+        timer->start(kKeyboardPrepareMs);
+    }
     return 0;
 }
 

@@ -58,8 +58,10 @@ QQuickItem* XQmlComponentManage::createItem(
     QQmlComponent* c = component(url);
     if (!c)
         return nullptr;
-    QQmlContext* ctx = parent ? QQmlEngine::contextForObject(parent) : nullptr;
-    QObject* obj = c->beginCreate(ctx ? ctx : m_engine->rootContext());
+    // Every item is made in the engine's root context: a component file sees the context properties set there,
+    // never the ids of whatever item it is placed under. (Asking an item made from QML for its context would
+    // also give that context a public object that lives as long as the context, i.e. past the item.)
+    QObject* obj = c->beginCreate(m_engine->rootContext());
     auto* item = qobject_cast<QQuickItem*>(obj);
     if (!item) {
         delete obj;
@@ -76,10 +78,16 @@ QQuickItem* XQmlComponentManage::createItem(
 
 QQuickItem* XQmlComponentManage::createDisEnableIcon(QQuickItem* parent)
 {
-    return createItem(QUrl(QStringLiteral("qrc:/QmlDisEnableIcon.qml")), parent);
+    QQuickItem* icon = createItem(QUrl(QStringLiteral("qrc:/QmlDisEnableIcon.qml")), parent);
+    if (icon)
+        icon->setParent(parent); // deleted with its widget
+    return icon;
 }
 
 QQuickItem* XQmlComponentManage::createBusyIcon(QQuickItem* parent)
 {
-    return createItem(QUrl(QStringLiteral("qrc:/QmlBusyIcon.qml")), parent);
+    QQuickItem* icon = createItem(QUrl(QStringLiteral("qrc:/QmlBusyIcon.qml")), parent);
+    if (icon)
+        icon->setParent(parent); // deleted with its widget
+    return icon;
 }

@@ -5,6 +5,7 @@
 #include "xcomponents/qquick/xqmlcomponentmanage.h"
 
 #include <QQmlContext>
+#include <QtQml/private/qqmldata_p.h>
 #include <QQmlEngine>
 #include <QQuickWindow>
 #include <QtQuickTemplates2/private/qquickcontrol_p.h>
@@ -29,16 +30,16 @@ void XQuickImage::setVisibleSourceSize(const QSizeF& size)
 
 bool XQuickImage::ensureContext(const QObject* from)
 {
-    if (qmlContext(this))
+    // Looked up without qmlContext(): asking an item made from QML for its context gives that context a
+    // public object that outlives the item.
+    if (const QQmlData* own = QQmlData::get(this); own && own->context)
         return true;
-    QQmlContext* ctx = from ? qmlContext(from) : nullptr;
-    if (!ctx) {
-        if (QQmlEngine* engine = XQmlComponentManage::getInstance()->engine())
-            ctx = engine->rootContext();
-    }
-    if (!ctx)
+    QQmlEngine* engine = from ? qmlEngine(from) : nullptr;
+    if (!engine)
+        engine = XQmlComponentManage::getInstance()->engine();
+    if (!engine)
         return false;
-    QQmlEngine::setContextForObject(this, ctx);
+    QQmlEngine::setContextForObject(this, engine->rootContext());
     return true;
 }
 

@@ -9,8 +9,8 @@ class QQuickControl;
  * The image item of the library's widgets (the Qt Quick image item with its
  * source and sourceSize). It stretches its picture to its box by default.
  *
- * An item made from C++ has no QML context; ensureContext() gives it the one
- * of \a from (or the engine's root context) so that it can load "image://" URLs.
+ * An item made from C++ has no QML context; ensureContext() gives it the root context
+ * of \a from's engine (or the library's) so that it can load "image://" URLs.
  */
 class XQuickImage : public QQuickImage {
     Q_OBJECT
@@ -19,8 +19,8 @@ public:
     explicit XQuickImage(QQuickItem* parent = nullptr);
     ~XQuickImage() override;
 
-    /** Gives the item a QML context when it has none: \a from's, else the library engine's
-     *  root context. False when no engine is known. */
+    /** Gives the item a QML context when it has none: the root context of \a from's engine, else the
+     *  library engine's. False when no engine is known. */
     bool ensureContext(const QObject* from);
     /** Decodes the picture at \a size, but never larger than what can be seen (the window, see
      *  XBasePaintedItem::cappedTextureSize): a huge item is stretched from a bounded picture. */

@@ -111,6 +111,7 @@ bool XTableViewControl::initialze(const Setup& setup, QQmlEngine* engine)
         auto* attached
             = qobject_cast<QQuickScrollBarAttached*>(qmlAttachedPropertiesObject<QQuickScrollBar>(m_view, true));
         if (bar && attached) {
+            bar->setParent(m_view); // deleted with the body it scrolls
             attached->setVertical(bar);
             m_scrollBar = bar;
             // shown only when there are more rows of the page than fit (not for the empty rows)
@@ -129,6 +130,7 @@ bool XTableViewControl::initialze(const Setup& setup, QQmlEngine* engine)
         m_toolBar = qobject_cast<XSettingToolControl*>(
             XQmlComponentManage::getInstance()->createItem(QUrl(QString::fromLatin1(kToolBarUrl)), this));
         if (m_toolBar) {
+            m_toolBar->setParent(this); // deleted with the table
             m_toolBar->setWidgetId(getId());
             m_toolBar->setHindControlBtn(m_setup.hidePageButtons);
             m_toolBar->setHindPageNum(m_setup.hidePageNum);

@@ -143,6 +143,7 @@ void XYCurveChart::onSelectedRectChanged(const QRectF& rect)
         m_restore = XQmlComponentManage::getInstance()->createItem(
             QUrl(QStringLiteral("qrc:/chart/QmlXYRestoreButton.qml")), this);
         if (m_restore) {
+            m_restore->setParent(this); // deleted with the chart
             if (QObject* button = m_restore->findChild<QObject*>(QStringLiteral("restoreBtn")))
                 connect(button, SIGNAL(qmlclicked()), this, SLOT(onRestoreBtnClicked()));
         }
