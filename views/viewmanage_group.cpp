@@ -2,6 +2,7 @@
 #include "views/viewmanage.h"
 
 #include "platform/guiqtadaptcore.h"
+#include "views/lifecyclemanager.h"
 #include "xcomponents/qquick/xgroup.h"
 
 using GuiQtAdapt::Core;
@@ -36,12 +37,13 @@ int ViewManage::View_CreatePieChart(const View_PieChart* rec, unsigned int windo
     return createPlaceholder(rec, windowId, "Pie chart");
 }
 
-int ViewManage::View_PieChartUpdateData(unsigned int, const std::vector<View_ChartChnData>&)
+// The placeholder takes the data and shows nothing of it; an unknown id is refused.
+int ViewManage::View_PieChartUpdateData(unsigned int id, const std::vector<View_ChartChnData>&)
 {
-    return 0;
+    return m_lifeCycle->findItemMaybeVisible(id) ? 0 : -1;
 }
 
-int ViewManage::View_PieChartUpdateLegendLabels(unsigned int, const std::vector<std::string>&)
+int ViewManage::View_PieChartUpdateLegendLabels(unsigned int id, const std::vector<std::string>&)
 {
-    return 0;
+    return m_lifeCycle->findItemMaybeVisible(id) ? 0 : -1;
 }

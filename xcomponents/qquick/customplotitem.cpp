@@ -5,6 +5,7 @@
 #include "xcomponents/qquick/xcustomplot.h"
 
 #include <QPainter>
+#include <QQuickWindow>
 
 #include <cmath>
 
@@ -96,8 +97,12 @@ void CustomPlotItem::updateCustomPlotSize()
 {
     if (!m_plot)
         return;
-    const int w = m_viewWidth > 0 ? m_viewWidth : int(qBound(1.0, width(), double(kMaxPlotSide)));
-    const int h = m_viewHeight > 0 ? m_viewHeight : int(qBound(1.0, height(), double(kMaxPlotSide)));
+    // never larger than the window that shows it (what lies beyond cannot be seen), nor than kMaxPlotSide
+    const QQuickWindow* win = window();
+    const double maxW = win && win->width() > 0 ? qMin(kMaxPlotSide, win->width()) : kMaxPlotSide;
+    const double maxH = win && win->height() > 0 ? qMin(kMaxPlotSide, win->height()) : kMaxPlotSide;
+    const int w = int(qBound(1.0, m_viewWidth > 0 ? double(m_viewWidth) : width(), maxW));
+    const int h = int(qBound(1.0, m_viewHeight > 0 ? double(m_viewHeight) : height(), maxH));
     if (m_plot->size() == QSize(w, h) && m_plot->viewport().size() == QSize(w, h))
         return;
     m_plot->setPlotSize(QSize(w, h));
@@ -131,6 +136,13 @@ void CustomPlotItem::paint(QPainter* painter)
         return;
     // copies the layers the last replot drew; nothing is drawn again
     m_plot->render(painter, m_origin, QRegion(), QWidget::RenderFlags());
+}
+
+void CustomPlotItem::itemChange(ItemChange change, const ItemChangeData& value)
+{
+    XBasePaintedItem::itemChange(change, value);
+    if (change == ItemSceneChange)
+        updateCustomPlotSize(); // the window bounds the plot
 }
 
 void CustomPlotItem::geometryChanged(const QRectF& newGeometry, const QRectF& oldGeometry)

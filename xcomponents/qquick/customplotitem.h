@@ -33,7 +33,8 @@ class CustomPlotItem : public XBasePaintedItem {
     Q_PROPERTY(QRect plotArea READ plotArea NOTIFY plotAreaChanged)
 
 public:
-    /** Longest side of a plot, pixels: a larger item shows the plot at its origin. */
+    /** Longest side of a plot, pixels (and never more than its window's): a larger item shows the plot at
+     *  its origin. */
     static constexpr int kMaxPlotSide = 4096;
 
     explicit CustomPlotItem(QQuickItem* parent = nullptr);
@@ -94,6 +95,7 @@ Q_SIGNALS:
 
 protected:
     void geometryChanged(const QRectF& newGeometry, const QRectF& oldGeometry) override;
+    void itemChange(ItemChange change, const ItemChangeData& value) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
