@@ -24,6 +24,7 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <cstdio>
 #include <climits>
 #include <cmath>
 #include <unistd.h>
@@ -531,6 +532,8 @@ QString show(const QSet<long long>& s)
 /* QGUI_CONTRACT_RECORD=<file>: what each export answered per case class, written at the end (to draft rows
  * for a new export; every row is then checked against the export's documentation). */
 QMap<QString, QMap<QString, QSet<long long>>> g_seen;
+long long g_calls = 0; ///< every call checked
+int g_checkedExports = 0;
 
 } // namespace
 
@@ -575,6 +578,8 @@ void tst_Contract::initTestCase()
 void tst_Contract::cleanupTestCase()
 {
     QDir::setCurrent(m_oldCwd);
+    std::printf("contract: %d exports, %lld calls\n", g_checkedExports, g_calls);
+    std::fflush(stdout);
     const QString out = qEnvironmentVariable("QGUI_CONTRACT_RECORD");
     if (out.isEmpty())
         return;
@@ -636,6 +641,7 @@ QList<unsigned> tst_Contract::makeEveryKind()
 bool tst_Contract::check(
     const Row& row, const QString& cls, const Answer& a, Case c, const char* kind, QStringList* faults)
 {
+    ++g_calls;
     if (a.isInt)
         g_seen[row.name][cls].insert(a.value);
     if (!a.isInt || !row.results.contains(cls))
@@ -673,6 +679,7 @@ void tst_Contract::every_export_keeps_its_contract()
     ViewManage* vm = ViewManage::getInstance();
     const QList<WidgetKind>& kinds = widgetKinds();
     QStringList faults;
+    ++g_checkedExports;
 
     // a widget made and deleted a moment ago stands for every deleted id
     QCOMPARE(kinds.first().create(kDeleted, A, Rect { 0, 0, 50, 20 }), 0);

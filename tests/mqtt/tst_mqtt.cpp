@@ -255,6 +255,7 @@ private Q_SLOTS:
     void connect_reports_connecting_then_connected_and_publishes();
     void wrong_credentials_report_an_error_until_the_right_ones_connect();
     void lost_connection_reports_state_0_and_a_long_connection_comes_back();
+    void broker_killed_and_restarted_20_times();
     void short_connection_is_not_retried_but_reconnects_on_request();
     void handles_are_the_lowest_free_number_from_1();
     void keep_alive_reaches_the_broker_data();
@@ -362,6 +363,56 @@ void tst_Mqtt::lost_connection_reports_state_0_and_a_long_connection_comes_back(
     QTRY_VERIFY_WITH_TIMEOUT(hasEvent(h, kState, 2), 40000);
     QCOMPARE(Mqtt_CheckState(h), 2);
     QVERIFY(hasEvent(h, kError, MQTT_ERR_NONE));
+}
+
+void tst_Mqtt::broker_killed_and_restarted_20_times()
+{
+    // each outage: the broker killed as a crash would, back after half a second. One lost and one connected
+    // state per outage, back within the outage + 2 s, and the logic layer's 10 ms cycle, which publishes and
+    // asks the state every tick all along, never kept waiting by an export (the test's own starting of the
+    // broker holds this thread, so the exports are timed, not the ticks).
+    const unsigned h = Mqtt_CreateClient();
+    Mqtt_Connect(h, prm(kLocalhost, m_broker->port(), nullptr, nullptr, "outages", true, 5));
+    QTRY_VERIFY_WITH_TIMEOUT(hasEvent(h, kState, 2), 10000);
+    QTimer cycle;
+    int published = 0;
+    qint64 longestCall = 0;
+    QObject::connect(&cycle, &QTimer::timeout, [&] {
+        QElapsedTimer call;
+        call.start();
+        Mqtt_Publish(h, "plant/outage", "tick", 1, false);
+        Mqtt_CheckState(h);
+        longestCall = qMax(longestCall, call.elapsed());
+        ++published;
+    });
+    cycle.start(10);
+    qint64 worstBack = 0;
+    for (int outage = 0; outage < 20; ++outage) {
+        m_recorder.clear();
+        QElapsedTimer down;
+        down.start();
+        m_broker->kill();
+        QVERIFY2(spinUntil([&] { return hasEvent(h, kState, 0); }, 10000), qPrintable(QString::number(outage)));
+        spinUntil([] { return false; }, qMax<qint64>(0, 500 - down.elapsed()));
+        const qint64 outageMs = down.elapsed();
+        QVERIFY2(m_broker->start(), qPrintable(m_broker->lastError()));
+        QVERIFY2(spinUntil([&] { return hasEvent(h, kState, 2); }, 40000), qPrintable(QString::number(outage)));
+        const qint64 back = down.elapsed() - outageMs;
+        worstBack = qMax(worstBack, back);
+        QVERIFY2(back <= 2000, qPrintable(QStringLiteral("outage %1: back %2 ms after the broker").arg(outage).arg(back)));
+        int lost = 0, connected = 0;
+        for (const auto& e : eventsOf(h)) {
+            lost += e == qMakePair(kState, 0) ? 1 : 0;
+            connected += e == qMakePair(kState, 2) ? 1 : 0;
+        }
+        QCOMPARE(lost, 1);
+        QCOMPARE(connected, 1);
+    }
+    cycle.stop();
+    std::printf("20 outages: back at most %lld ms after the broker; longest export %lld ms over %d ticks\n",
+        worstBack, longestCall, published);
+    std::fflush(stdout);
+    QVERIFY2(longestCall < 50, qPrintable(QString::number(longestCall)));
 }
 
 void tst_Mqtt::short_connection_is_not_retried_but_reconnects_on_request()

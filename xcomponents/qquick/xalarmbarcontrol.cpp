@@ -77,7 +77,7 @@ void XAlarmBarControl::relayout()
     for (qreal w : widths)
         total += w;
     const qreal w = qFloor(total);
-    const qreal h = qMax(m_model->rowCount(), 1) * rowHeight();
+    const qreal h = qreal(qMax(m_model->rowCount(), 1)) * rowHeight(); // as reals: a zoomed bar overflows ints
     for (XAlarmTableBar* v : { m_lead.data(), m_follow.data(), static_cast<XAlarmTableBar*>(m_leadHeader.data()),
              static_cast<XAlarmTableBar*>(m_followHeader.data()) }) {
         v->setColumnWidths(widths);

@@ -89,7 +89,7 @@ void XCommonTableView::setHighlight(int row, const QPoint& cell, bool wholeRow)
 
 bool XCommonTableView::isLocaltedRow(int row) const
 {
-    const qreal top = row * rowHeight();
+    const qreal top = qreal(row) * rowHeight();
     const qreal y = contentY() - originY();
     return top >= y && top + rowHeight() <= y + height();
 }
@@ -97,5 +97,5 @@ bool XCommonTableView::isLocaltedRow(int row) const
 void XCommonTableView::jumpToRow(int row)
 {
     const qreal maxY = qMax<qreal>(0, contentHeight() - height());
-    setContentY(originY() + qBound<qreal>(0, row * rowHeight(), maxY));
+    setContentY(originY() + qBound<qreal>(0, qreal(row) * rowHeight(), maxY));
 }

@@ -116,7 +116,7 @@ bool XTableViewControl::initialze(const Setup& setup, QQmlEngine* engine)
             m_scrollBar = bar;
             // shown only when there are more rows of the page than fit (not for the empty rows)
             auto policy = [this, bar] {
-                const bool more = m_view && m_model->actualRowCount() * rowHeight() > m_view->height();
+                const bool more = m_view && qreal(m_model->actualRowCount()) * rowHeight() > m_view->height();
                 bar->setPolicy(more ? QQuickScrollBar::AsNeeded : QQuickScrollBar::AlwaysOff);
             };
             connect(m_model, &XTableModel::actualRowCountChanged, bar, policy);
