@@ -16,6 +16,8 @@
 #include "views/virtualkeyboardmanager.h"
 
 #include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QQuickWindow>
 #include <QRegularExpression>
 #include <QQmlEngine>
 #include <QtCore/private/qhooks_p.h>
@@ -110,6 +112,23 @@ int cycles()
 {
     const int n = qEnvironmentVariableIntValue("QGUI_SOAK_CYCLES");
     return n > 0 ? n : 500;
+}
+
+/* Lets the scene render one frame of what is shown now (bounded: a frame that does not come is no fault of
+ * the widget's). */
+void renderFrame()
+{
+    QQuickWindow* w = qobject_cast<QQuickWindow*>(QGuiApplication::focusWindow());
+    if (!w && !QGuiApplication::topLevelWindows().isEmpty())
+        w = qobject_cast<QQuickWindow*>(QGuiApplication::topLevelWindows().first());
+    if (!w)
+        return;
+    bool swapped = false;
+    const QMetaObject::Connection c
+        = QObject::connect(w, &QQuickWindow::frameSwapped, w, [&swapped] { swapped = true; }, Qt::DirectConnection);
+    w->update();
+    QTest::qWaitFor([&swapped] { return swapped; }, 1000);
+    QObject::disconnect(c);
 }
 
 /* What must come back after the cycles: the registry exactly, and no more objects than before (fewer is
@@ -260,7 +279,9 @@ void tst_Soak::every_kind_created_shown_changed_and_deleted()
         QCOMPARE(View_ShowWidget(id, 0, ItemSlashType(0)), 0);
         const int moved = View_MoveWidget(id, 20 + i % 50, 30); // -1: a kind that does not move
         QVERIFY(moved == 0 || moved == -1);
-        QCOMPARE(View_ChangeOpacity(id, static_cast<unsigned char>(i % 100)), 0);
+        QCOMPARE(View_ChangeOpacity(id, static_cast<unsigned char>(50 + i % 50)), 0);
+        if (i % 10 == 0)
+            renderFrame(); // what the render thread makes for the widget goes with it too
         QCOMPARE(View_HideWidget(id, ItemSlashType(0)), 0);
         QCOMPARE(View_DeleteWidgets({ id }), 0);
     });
@@ -282,6 +303,8 @@ void tst_Soak::popups_and_windows_opened_and_closed_with_their_widgets()
         QCOMPARE(m_panel.switchWindow(B, Rect { 0, 0, 800, 480 }), 0);
         QCOMPARE(kinds.at(i % kinds.size()).create(700, B, Rect { 10, 10, 150, 80 }), 0);
         QCOMPARE(m_panel.switchWindow(A, Rect { 0, 0, 800, 480 }), 0);
+        if (i % 10 == 0)
+            renderFrame();
         QCOMPARE(View_DeleteWidgets({ 600, 601, 602, 700 }), 0);
     });
 }
@@ -300,6 +323,7 @@ void tst_Soak::a_desktop_closed_with_everything_in_it()
             QCOMPARE(kinds.at(k).create(800 + unsigned(k), W, Rect { 10 * (k % 8), 10 * (k / 8), 100, 60 }), 0);
         QCOMPARE(m_panel.popup(P, Rect { 100, 60, 400, 300 }), 0);
         QCOMPARE(kinds.at(0).create(900, P, Rect { 10, 50, 120, 60 }), 0);
+        renderFrame();
         QCOMPARE(View_CloseDesktop(2), 0);
         QCOMPARE(m_panel.switchWindow(A, Rect { 0, 0, 800, 480 }), 0);
     });
