@@ -182,7 +182,8 @@ size_t CCrashStack::buildReport(
 
     addRegisters(w, context);
 
-    if (info && (sig == SIGSEGV || sig == SIGBUS))
+    // the faulting address exists for a fault the processor raised, not for a signal sent with kill/raise
+    if (info && (sig == SIGSEGV || sig == SIGBUS) && info->si_code > 0)
         w.add("\n%s Address: %016llX\n", isWriteFault(context) ? "Write" : "Read",
             (unsigned long long)(uintptr_t)info->si_addr);
 

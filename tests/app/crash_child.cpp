@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <string>
+#include <thread>
 
 namespace {
 volatile int g_zero = 0;
@@ -25,13 +26,38 @@ __attribute__((noinline)) void crashNow(const std::string& how)
     } else if (how == "jump") {
         auto fn = reinterpret_cast<void (*)()>(std::uintptr_t(0x30));
         fn();
+    } else if (how == "ill") {
+        __builtin_trap();
+    } else if (how == "bus") {
+        std::raise(SIGBUS);
+    } else if (how == "trap") {
+        std::raise(SIGTRAP);
+    } else if (how == "sys") {
+        std::raise(SIGSYS);
     }
+}
+
+/* Recurses until the stack is gone: the handler must run on its own stack. */
+__attribute__((noinline)) int overflow(int depth)
+{
+    volatile char frame[512];
+    frame[0] = char(depth);
+    return overflow(depth + 1) + frame[0];
 }
 } // namespace
 
 int main(int argc, char** argv)
 {
     CCrashStack::install();
-    crashNow(argc > 1 ? argv[1] : "read");
+    const std::string how = argc > 1 ? argv[1] : "read";
+    if (how == "overflow")
+        return overflow(0);
+    if (how == "thread") {
+        // a thread other than the one that installed the handler reads a bad address
+        std::thread t([] { crashNow("read"); });
+        t.join();
+        return 0;
+    }
+    crashNow(how);
     return 0;
 }

@@ -29,6 +29,12 @@ void tst_Crash::a_crash_leaves_a_complete_report_data()
     QTest::newRow("jump to a bad address") << "jump" << int(SIGSEGV) << "Address: 0000000000000030";
     QTest::newRow("abort") << "abort" << int(SIGABRT) << "";
     QTest::newRow("arithmetic") << "fpe" << int(SIGFPE) << "";
+    QTest::newRow("illegal instruction") << "ill" << int(SIGILL) << "";
+    QTest::newRow("bus error") << "bus" << int(SIGBUS) << "";
+    QTest::newRow("trap") << "trap" << int(SIGTRAP) << "";
+    QTest::newRow("bad system call") << "sys" << int(SIGSYS) << "";
+    QTest::newRow("another thread") << "thread" << int(SIGSEGV) << "Read Address: 0000000000000010";
+    QTest::newRow("stack overflow") << "overflow" << int(SIGSEGV) << "Write Address: ";
 }
 
 void tst_Crash::a_crash_leaves_a_complete_report()

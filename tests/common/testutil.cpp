@@ -2,10 +2,13 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QQuickItem>
 #include <QQuickView>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <unistd.h>
 
 namespace TestUtil {
 
@@ -26,6 +29,15 @@ bool waitForFrame(QQuickView* view, int timeoutMs)
     QSignalSpy spy(view, &QQuickWindow::frameSwapped);
     view->update();
     return spy.count() > 0 || spy.wait(timeoutMs);
+}
+
+long residentKiB()
+{
+    QFile f(QStringLiteral("/proc/self/statm"));
+    if (!f.open(QIODevice::ReadOnly))
+        return 0;
+    const QList<QByteArray> fields = f.readAll().split(' ');
+    return fields.size() > 1 ? fields.at(1).toLong() * (sysconf(_SC_PAGESIZE) / 1024) : 0;
 }
 
 QPoint sceneCenter(const QQuickItem* item)

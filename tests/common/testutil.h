@@ -19,6 +19,8 @@ QPoint sceneCenter(const QQuickItem* item);
  *  item tree so that delegates are found; hidden ones (a replaced layout's, not yet deleted) are
  *  skipped. */
 QQuickItem* findItem(QQuickItem* root, const QString& name);
+/** Resident memory of this process, KiB (0 when it cannot be read). */
+long residentKiB();
 
 } // namespace TestUtil
 

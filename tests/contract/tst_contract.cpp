@@ -11,6 +11,7 @@
 // it should, and a plain call on a fresh widget still works.
 #include "common/guiapptestmain.h"
 #include "common/panelfixture.h"
+#include "common/testutil.h"
 #include "common/widgetkinds.h"
 
 #include "app/xquickview.h"
@@ -27,7 +28,6 @@
 #include <cstdio>
 #include <climits>
 #include <cmath>
-#include <unistd.h>
 #include <cstring>
 #include <functional>
 #include <limits>
@@ -445,15 +445,6 @@ struct Row {
     QMap<QString, QSet<long long>> results; ///< case class -> the results allowed
 };
 
-long residentKiB()
-{
-    QFile f(QStringLiteral("/proc/self/statm"));
-    if (!f.open(QIODevice::ReadOnly))
-        return 0;
-    const QList<QByteArray> fields = f.readAll().split(' ');
-    return fields.size() > 1 ? fields.at(1).toLong() * (sysconf(_SC_PAGESIZE) / 1024) : 0;
-}
-
 QString sourceDir()
 {
     return qEnvironmentVariable("QGUI_TEST_SOURCE_DIR");
@@ -746,12 +737,12 @@ void tst_Contract::every_kind_takes_enormous_and_negative_boxes()
 {
     QFETCH(int, kind);
     QFETCH(Rect, box);
-    const long before = residentKiB();
+    const long before = TestUtil::residentKiB();
     QCOMPARE(widgetKinds().at(kind).create(2000, A, box), 0);
     QCOMPARE(View_ShowWidget(2000, 0, ItemSlashType(0)), 0);
     const QImage frame = m_panel.view()->grabWindow(); // a frame rendered with the widget in it
     QVERIFY(!frame.isNull());
-    const long grown = residentKiB() - before;
+    const long grown = TestUtil::residentKiB() - before;
     QVERIFY2(grown < 64 * 1024, qPrintable(QStringLiteral("%1 MiB more for one widget").arg(grown / 1024)));
     Rect got {};
     QCOMPARE(View_GetWgtRect(2000, got), 0);

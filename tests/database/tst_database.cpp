@@ -3,6 +3,7 @@
 #include <QtTest>
 
 #include <cstdio>
+#include <signal.h>
 
 #include <qgui/xdatabase.h>
 
@@ -13,6 +14,7 @@
 #include "platform/nlogger.h"
 
 #include <QDir>
+#include <QProcess>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QTemporaryDir>
@@ -118,6 +120,7 @@ private Q_SLOTS:
     void server_killed_mid_batch_answers_every_request_once_and_recovers_data();
     void server_killed_mid_batch_answers_every_request_once_and_recovers();
 
+    void sqlite_process_killed_after_acknowledgements_keeps_them();
     void unknown_database_numbers_answer_nothing();
     void null_sql_throws_and_queues_nothing();
     void large_and_invalid_utf8_statements();
@@ -575,5 +578,79 @@ void tst_Database::close_drops_waiting_requests_and_ends_threads_and_connections
     QVERIFY(g_results.list.size() <= 1);
 }
 
-QTEST_GUILESS_MAIN(tst_Database)
+/* Child mode: writes numbered rows to the SQLite file \a path through the service, one request at a time,
+ * and prints "ack <n>" for each acknowledged one; the parent kills it at some point. */
+int sqliteWriter(int argc, char** argv, const char* path)
+{
+    QCoreApplication app(argc, argv);
+    std::list<DbConnInfo> infos { { 1, "QSQLITE", "", "", "", path, -1 } };
+    unsigned next = 0;
+    xDatabase::db_init(infos, [&next](DbQueryResult* r) {
+        if (r->errorType == 0 && r->queryId > 0) {
+            std::printf("ack %u\n", r->queryId);
+            std::fflush(stdout);
+        }
+        ++next;
+        xDatabase::db_query(1, next, ("insert into t_ack values (" + std::to_string(next) + ")").c_str(), false);
+    });
+    xDatabase::db_querySync(1, "create table if not exists t_ack (v int primary key)", false);
+    xDatabase::db_query(1, 0, "select 1", true); // starts the chain of writes
+    return app.exec();
+}
+
+void tst_Database::sqlite_process_killed_after_acknowledgements_keeps_them()
+{
+    // the panel's process dies (SIGKILL, as a power cut of the process would) while it writes: the file
+    // passes SQLite's integrity check and holds every row the service reported as done
+    const QString file = m_dir.filePath(QStringLiteral("killed.sqlite"));
+    for (int round = 0; round < 5; ++round) {
+        QProcess writer;
+        writer.setProcessChannelMode(QProcess::SeparateChannels);
+        writer.start(QCoreApplication::applicationFilePath(), { QStringLiteral("--sqlite-writer"), file });
+        QVERIFY(writer.waitForStarted());
+        QByteArray out;
+        QVERIFY(QTest::qWaitFor(
+            [&] {
+                out += writer.readAllStandardOutput();
+                return out.count('\n') >= 30 + 10 * round;
+            },
+            30000));
+        ::kill(pid_t(writer.processId()), SIGKILL);
+        QVERIFY(writer.waitForFinished(5000));
+        out += writer.readAllStandardOutput();
+        QList<int> acked;
+        for (const QByteArray& line : out.split('\n')) {
+            if (line.startsWith("ack "))
+                acked << line.mid(4).toInt();
+        }
+        QVERIFY(!acked.isEmpty());
+
+        const QString name = QStringLiteral("killed-check-%1").arg(round);
+        {
+            QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
+            db.setDatabaseName(file);
+            QVERIFY(db.open());
+            QSqlQuery q(db);
+            QVERIFY(q.exec(QStringLiteral("PRAGMA integrity_check")) && q.next());
+            QCOMPARE(q.value(0).toString(), QStringLiteral("ok"));
+            QSet<int> stored;
+            QVERIFY(q.exec(QStringLiteral("select v from t_ack")));
+            while (q.next())
+                stored.insert(q.value(0).toInt());
+            for (int v : acked)
+                QVERIFY2(stored.contains(v), qPrintable(QStringLiteral("row %1 acknowledged but missing").arg(v)));
+        }
+        QSqlDatabase::removeDatabase(name);
+    }
+}
+
+int main(int argc, char** argv)
+{
+    if (argc >= 3 && qstrcmp(argv[1], "--sqlite-writer") == 0)
+        return sqliteWriter(argc, argv, argv[2]);
+    QCoreApplication app(argc, argv);
+    tst_Database tc;
+    QTEST_SET_MAIN_SOURCE_PATH
+    return QTest::qExec(&tc, argc, argv);
+}
 #include "tst_database.moc"

@@ -8,16 +8,16 @@
 // figures).
 #include "common/guiapptestmain.h"
 #include "common/panelfixture.h"
+#include "common/testutil.h"
 #include "common/widgetkinds.h"
 
+#include "app/xquickview.h"
 #include "views/lifecyclemanager.h"
 #include "views/viewmanage.h"
 #include "xcomponents/qquick/xqmlcomponentmanage.h"
 #include "views/virtualkeyboardmanager.h"
 
 #include <QElapsedTimer>
-#include <QGuiApplication>
-#include <QQuickWindow>
 #include <QRegularExpression>
 #include <QQmlEngine>
 #include <QtCore/private/qhooks_p.h>
@@ -27,7 +27,6 @@
 #include <mutex>
 #include <thread>
 #include <unordered_set>
-#include <unistd.h>
 
 namespace {
 
@@ -84,17 +83,6 @@ const bool g_hooked = [] {
     return true;
 }();
 
-long residentKiB()
-{
-    FILE* f = std::fopen("/proc/self/statm", "r");
-    long pages = 0, resident = 0;
-    if (f) {
-        if (std::fscanf(f, "%ld %ld", &pages, &resident) != 2)
-            resident = 0;
-        std::fclose(f);
-    }
-    return resident * (sysconf(_SC_PAGESIZE) / 1024);
-}
 
 /* The kinds to soak: all, or those whose export name matches QGUI_SOAK_KINDS (a regular expression). */
 QList<WidgetKind> kinds()
@@ -112,23 +100,6 @@ int cycles()
 {
     const int n = qEnvironmentVariableIntValue("QGUI_SOAK_CYCLES");
     return n > 0 ? n : 500;
-}
-
-/* Lets the scene render one frame of what is shown now (bounded: a frame that does not come is no fault of
- * the widget's). */
-void renderFrame()
-{
-    QQuickWindow* w = qobject_cast<QQuickWindow*>(QGuiApplication::focusWindow());
-    if (!w && !QGuiApplication::topLevelWindows().isEmpty())
-        w = qobject_cast<QQuickWindow*>(QGuiApplication::topLevelWindows().first());
-    if (!w)
-        return;
-    bool swapped = false;
-    const QMetaObject::Connection c
-        = QObject::connect(w, &QQuickWindow::frameSwapped, w, [&swapped] { swapped = true; }, Qt::DirectConnection);
-    w->update();
-    QTest::qWaitFor([&swapped] { return swapped; }, 1000);
-    QObject::disconnect(c);
 }
 
 /* What must come back after the cycles: the registry exactly, and no more objects than before (fewer is
@@ -201,7 +172,7 @@ void soak(const char* what, int n, int warmUp, Cycle cycle)
         return;
     const Snapshot before = snapshot();
     const std::unordered_set<QObject*> objectsBefore = liveObjects();
-    long rssFrom = residentKiB();
+    long rssFrom = TestUtil::residentKiB();
     const int from = qMax(warmUp, n / 10);
     for (int i = warmUp; i < n; ++i) {
         cycle(i);
@@ -211,11 +182,11 @@ void soak(const char* what, int n, int warmUp, Cycle cycle)
             PanelFixture::settle();
         if (i == from) {
             snapshot(); // the same clean-up as at the end: garbage collected, deletions done
-            rssFrom = residentKiB();
+            rssFrom = TestUtil::residentKiB();
         }
     }
     const Snapshot after = snapshot();
-    const long drift = residentKiB() - rssFrom;
+    const long drift = TestUtil::residentKiB() - rssFrom;
     std::printf("soak %-36s %6d cycles: %+ld objects, %+d ids, resident %+ld KiB from cycle %d\n", what, n,
         after.objects - before.objects, after.ids - before.ids, drift, from);
     std::fflush(stdout);
@@ -281,7 +252,7 @@ void tst_Soak::every_kind_created_shown_changed_and_deleted()
         QVERIFY(moved == 0 || moved == -1);
         QCOMPARE(View_ChangeOpacity(id, static_cast<unsigned char>(50 + i % 50)), 0);
         if (i % 10 == 0)
-            renderFrame(); // what the render thread makes for the widget goes with it too
+            TestUtil::waitForFrame(m_panel.view(), 1000); // what the render thread makes for the widget goes too
         QCOMPARE(View_HideWidget(id, ItemSlashType(0)), 0);
         QCOMPARE(View_DeleteWidgets({ id }), 0);
     });
@@ -304,7 +275,7 @@ void tst_Soak::popups_and_windows_opened_and_closed_with_their_widgets()
         QCOMPARE(kinds.at(i % kinds.size()).create(700, B, Rect { 10, 10, 150, 80 }), 0);
         QCOMPARE(m_panel.switchWindow(A, Rect { 0, 0, 800, 480 }), 0);
         if (i % 10 == 0)
-            renderFrame();
+            TestUtil::waitForFrame(m_panel.view(), 1000);
         QCOMPARE(View_DeleteWidgets({ 600, 601, 602, 700 }), 0);
     });
 }
@@ -323,7 +294,7 @@ void tst_Soak::a_desktop_closed_with_everything_in_it()
             QCOMPARE(kinds.at(k).create(800 + unsigned(k), W, Rect { 10 * (k % 8), 10 * (k / 8), 100, 60 }), 0);
         QCOMPARE(m_panel.popup(P, Rect { 100, 60, 400, 300 }), 0);
         QCOMPARE(kinds.at(0).create(900, P, Rect { 10, 50, 120, 60 }), 0);
-        renderFrame();
+        TestUtil::waitForFrame(m_panel.view(), 1000);
         QCOMPARE(View_CloseDesktop(2), 0);
         QCOMPARE(m_panel.switchWindow(A, Rect { 0, 0, 800, 480 }), 0);
     });
