@@ -41,7 +41,7 @@ private Q_SLOTS:
     void disable_flags_data();
     void disable_flags();
     void opacity_rectangle_and_move();
-    void deleting_a_widget_inside_its_own_press_handler();
+    void deleting_a_widget_inside_its_own_press_handler(); // then changing it, and re-entering
 
 private:
     unsigned placeholder(unsigned id, unsigned windowId, Rect r = Rect { 10, 20, 30, 40 });
@@ -378,12 +378,24 @@ namespace {
 QPointer<XBaseControl> g_pressed;
 bool g_validAfterDelete = false;
 
+QList<int> g_afterDelete;
+bool g_reentrant = false;
+
 ErrRet deleteOnPress(unsigned id, int code, void* data)
 {
     EventRecorder::callBack(id, code, data);
     if (code == EVT_WIDGET_PRESS && id != 0) {
         View_DeleteWidgets({ id }); // the logic layer deletes the widget from inside its own event
         g_validAfterDelete = !g_pressed.isNull() && g_pressed->getId() == id;
+        // ... changes it in the same call-back: the id is gone, the documented results for an unknown id
+        g_afterDelete = { View_MoveWidget(id, 5, 5), View_ChangeOpacity(id, 50), View_ShowWidget(id, 1, ItemSlashType(0)) };
+        // ... and makes and deletes other widgets while the event is being delivered
+        View_CameraIP rec {};
+        rec.rect = Rect { 0, 0, 40, 40 };
+        rec.id = 802;
+        g_reentrant = View_CreateCameraIP(&rec, PanelFixture::wid(1, 1)) == 0 && View_DeleteWidgets({ 802 }) == 0;
+        rec.id = 803;
+        g_reentrant = g_reentrant && View_CreateCameraIP(&rec, PanelFixture::wid(1, 1)) == 0;
     }
     return 0;
 }
@@ -399,9 +411,15 @@ void tst_Registry::deleting_a_widget_inside_its_own_press_handler()
     const QPoint p = m_panel.sceneCenter(c);
     m_panel.press(p);
     QVERIFY(g_validAfterDelete); // still valid while its own handler runs
+    QCOMPARE(g_afterDelete, (QList<int> { -1, 0, -1 })); // changed after its delete: an unknown id
+    QVERIFY(g_reentrant);
     m_panel.release(p);
     PanelFixture::settle();
     QVERIFY(!guard);
+    auto* vm = ViewManage::getInstance();
+    QVERIFY(!vm->getItemById(802)); // made and deleted inside the call-back
+    QVERIFY(vm->getItemById(803)); // made inside the call-back, kept
+    QCOMPARE(View_MoveWidget(803, 10, 10), 0);
     QCOMPARE(m_rec.eventsWithCode(EVT_WIDGET_PRESS).size(), 1);
     QCOMPARE(m_rec.eventsWithCode(EVT_WIDGET_PRESS).first().id, 801u);
     m_rec.install();
