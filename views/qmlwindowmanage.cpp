@@ -188,7 +188,7 @@ bool QmlWindowManage::closeDesktop(unsigned n, QHash<unsigned, QQuickItem*>& idH
     }
     for (XWindow* w : windows()) {
         if (GetDeskNoFromWndId(w->getWindowId()) == n)
-            removeWindow(w->getWindowId());
+            closeWindow(w->getWindowId(), idHash);
     }
     if (auto l = m_lighters.take(n))
         l->deleteLater();
@@ -387,6 +387,8 @@ bool QmlWindowManage::closeWindow(unsigned windowId, QHash<unsigned, QQuickItem*
         d->deleteLater();
         return true;
     }
+    if (XWindow* w = findWindow(windowId))
+        m_lifeCycle->hideWindow(w->windowContent(), idHash); // its widgets stay cached for reuse, as a popup's
     return removeWindow(windowId);
 }
 

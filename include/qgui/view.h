@@ -92,7 +92,7 @@ QGUI_EXPORT int View_ShowWidget(unsigned int id, unsigned int fromCache, ItemSla
 QGUI_EXPORT int View_ChangeWindowTitle(unsigned int windowId, const char* title);
 /** Closes desktop `desktopNo` and its windows; always 0. */
 QGUI_EXPORT int View_CloseDesktop(unsigned int desktopNo);
-/** Closes a window or popup window; a popup's widgets stay cached for reuse. 0, or -1 for an unknown window.
+/** Closes a window or popup window; its widgets stay cached for reuse. 0, or -1 for an unknown window.
  */
 QGUI_EXPORT int View_CloseWindow(unsigned int windowId);
 /** Creates desktop `desktopNo` of the given size; always 0. */

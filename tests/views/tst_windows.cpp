@@ -42,6 +42,7 @@ private Q_SLOTS:
     void busy_bar_starts_and_stops();
     void windows_switch_and_report_geometry();
     void unknown_windows_give_their_fixed_results();
+    void windows_of_another_desktop();
     void bad_records_and_texts();
     void screenshots_of_the_panel_and_of_a_window();
 
@@ -419,6 +420,44 @@ void tst_Windows::screenshots_of_the_panel_and_of_a_window()
     QCOMPARE(View_ScreenShot(84, nullptr), -1);
     QTest::qWait(50);
     QCOMPARE(m_rec.count(EVT_SCREENSHOT), 0);
+}
+
+void tst_Windows::windows_of_another_desktop()
+{
+    // the logic layer builds desktop 2 while desktop 1 is shown: its window ids work from anywhere; the ids of
+    // a desktop that does not exist, or no longer exists, are unknown windows
+    auto* vm = ViewManage::getInstance();
+    const unsigned W2 = PanelFixture::wid(2, 1);
+    const unsigned W3 = PanelFixture::wid(3, 1);
+    QCOMPARE(View_CreateDesktop(Size { 800, 480 }, 2), 0);
+    QCOMPARE(m_panel.switchWindow(W2, Rect { 0, 0, 800, 480 }), 0);
+    QCOMPARE(m_panel.switchWindow(PanelFixture::wid(1, 1), Rect { 0, 0, 800, 480 }), 0);
+
+    View_CameraIP rec {};
+    rec.rect = Rect { 10, 10, 60, 40 };
+    rec.id = 901;
+    QCOMPARE(View_CreateCameraIP(&rec, W2), 0);
+    QCOMPARE(vm->getItemById(901)->parentItem(), vm->windowManage()->getWindow(W2));
+    rec.id = 902;
+    QCOMPARE(View_CreateCameraIP(&rec, PanelFixture::wid(1, 1)), 0);
+    QCOMPARE(View_SetWidgetParent(902, W2), 0); // across desktops
+    QCOMPARE(vm->getItemById(902)->parentItem(), vm->windowManage()->getWindow(W2));
+
+    rec.id = 903;
+    QCOMPARE(View_CreateCameraIP(&rec, W3), -1);
+    QVERIFY(!vm->getItemById(903));
+    QCOMPARE(View_SetWidgetParent(902, W3), -1);
+    QCOMPARE(View_CloseWindow(W3), -1);
+    Rect r {};
+    QCOMPARE(View_GetWindowRect(W3, r), -1);
+
+    QCOMPARE(View_CloseDesktop(2), 0);
+    PanelFixture::settle();
+    rec.id = 904;
+    QCOMPARE(View_CreateCameraIP(&rec, W2), -1); // its desktop is closed
+    QCOMPARE(View_CloseWindow(W2), -1);
+    QVERIFY(!vm->idHash().contains(901)); // no longer among the widgets shown
+    QVERIFY(!vm->idHash().contains(902));
 }
 
 QGUI_GUIAPP_TEST_MAIN(tst_Windows)
