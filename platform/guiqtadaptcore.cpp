@@ -1,5 +1,7 @@
 #include "platform/guiqtadaptcore.h"
 
+#include <limits>
+
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QLinearGradient>
@@ -128,7 +130,12 @@ Qt::Alignment Core::toQAlignment(unsigned word)
 
 QRect Core::toQRect(const Rect& rect)
 {
-    return QRect(rect.x, rect.y, qMax(0, rect.width), qMax(0, rect.height));
+    // negative sizes are empty; a box reaching past the largest coordinate ends there
+    auto extent = [](int origin, int size) {
+        const qint64 largest = qint64(std::numeric_limits<int>::max()) - qMax(0, origin);
+        return int(qMin<qint64>(qMax(0, size), largest));
+    };
+    return QRect(rect.x, rect.y, extent(rect.x, rect.width), extent(rect.y, rect.height));
 }
 
 QColor Core::toFontColor(const Brush* brush)

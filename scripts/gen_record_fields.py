@@ -9,6 +9,7 @@ Writes one line per structure:
 QGUI_ID marks a widget, window or parent id; QGUI_ARRAY(points, pointCount) a pointer field and the count
 field that follows it (the pair is one array). Structures inside a namespace come out qualified.
 """
+import os
 import re
 import sys
 
@@ -76,6 +77,7 @@ def main():
             if fields:
                 lines.append(render(name, fields))
     text = '\n'.join(lines) + '\n'
+    os.makedirs(os.path.dirname(os.path.abspath(sys.argv[1])), exist_ok=True)
     try:
         if open(sys.argv[1], encoding='utf-8').read() == text:
             return

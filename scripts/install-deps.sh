@@ -29,6 +29,8 @@ PACKAGES=(
   mosquitto mosquitto-clients postgresql mariadb-server p7zip-full zbar-tools poppler-utils
   vsftpd python3-pyftpdlib curl
   procps binutils
+  # the coverage-guided fuzzer (scripts/fuzz.sh): clang and its libFuzzer runtime
+  clang-14 libclang-rt-14-dev
 )
 
 missing=()

@@ -55,7 +55,7 @@ struct View_CurveAxis {
     Pen subGridPen; /**< grid lines at the minor ticks */
     U8 subGridVisible; /**< non-zero: the minor grid is drawn */
     int tickCount; /**< major ticks across the axis (sample chart x axis: its ticker count) */
-    int subTickCount; /**< minor ticks between two major ticks */
+    int subTickCount; /**< minor ticks between two major ticks, 0..100 (more count as 100) */
     double lower; /**< initial lower bound (sample chart x axis: the range at scale 1.0) */
     double upper; /**< initial upper bound */
 };

@@ -27,8 +27,8 @@ typedef int ErrRet;
 struct Rect {
     int x; /**< left edge */
     int y; /**< top edge */
-    int width; /**< width; negative sizes are treated as 0 */
-    int height; /**< height; negative sizes are treated as 0 */
+    int width; /**< width; negative sizes are treated as 0, and a box reaching past INT_MAX ends there */
+    int height; /**< height; as the width */
 };
 
 /** Size of a desktop, in pixels. */

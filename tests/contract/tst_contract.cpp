@@ -14,6 +14,8 @@
 #include "common/testutil.h"
 #include "common/widgetkinds.h"
 
+#include "fuzz/interfacefuzzer.h"
+
 #include "app/xquickview.h"
 #include "views/lifecyclemanager.h"
 #include "views/viewmanage.h"
@@ -445,6 +447,9 @@ struct Row {
     QMap<QString, QSet<long long>> results; ///< case class -> the results allowed
 };
 
+/* "fuzz <input> | <what it broke>" rows: inputs of tests/fuzz/corpus. */
+QList<QPair<QString, QString>> g_fuzzFindings;
+
 QString sourceDir()
 {
     return qEnvironmentVariable("QGUI_TEST_SOURCE_DIR");
@@ -472,6 +477,11 @@ QMap<QString, Row> readTable(QString* error)
         }
         Row row;
         row.name = line.left(bar).trimmed();
+        if (row.name.startsWith(QLatin1String("fuzz "))) {
+            // an input of the fuzzer that once broke the interface: run again by fuzz_findings_stay_fixed
+            g_fuzzFindings << qMakePair(row.name.mid(5).trimmed(), line.mid(bar + 3).trimmed());
+            continue;
+        }
         const QString rest = line.mid(bar + 3).trimmed();
         if (rest.startsWith(QLatin1String("skip="))) {
             row.skip = rest.mid(5);
@@ -543,6 +553,8 @@ private Q_SLOTS:
     void every_export_keeps_its_contract();
     void every_kind_takes_enormous_and_negative_boxes_data();
     void every_kind_takes_enormous_and_negative_boxes();
+    void fuzz_findings_stay_fixed_data();
+    void fuzz_findings_stay_fixed();
 
 private:
     /* Creates one widget of every kind in window A (ids from kFirst); their ids. */
@@ -721,9 +733,11 @@ void tst_Contract::every_kind_takes_enormous_and_negative_boxes_data()
 {
     QTest::addColumn<int>("kind");
     QTest::addColumn<Rect>("box");
+    // (found by the fuzzer: INT_MAX from an origin past 0 overflowed the box's right edge)
     const QList<Rect> boxes { { 0, 0, 100000, 100000 }, { 0, 0, INT_MAX, INT_MAX }, { 50, 50, -300, -200 },
-        { INT_MIN, INT_MIN, INT_MAX, INT_MAX } };
-    const char* const boxNames[] = { "100000 x 100000", "INT_MAX", "negative size", "INT_MIN origin" };
+        { INT_MIN, INT_MIN, INT_MAX, INT_MAX }, { 40, 40, INT_MAX, INT_MAX } };
+    const char* const boxNames[] = { "100000 x 100000", "INT_MAX", "negative size", "INT_MIN origin",
+        "INT_MAX from 40" };
     for (int k = 0; k < widgetKinds().size(); ++k) {
         for (int b = 0; b < boxes.size(); ++b)
             QTest::addRow("%s, %s", widgetKinds().at(k).name, boxNames[b]) << k << boxes.at(b);
@@ -748,6 +762,28 @@ void tst_Contract::every_kind_takes_enormous_and_negative_boxes()
     QCOMPARE(View_GetWgtRect(2000, got), 0);
     QCOMPARE(View_DeleteWidgets({ 2000 }), 0);
     PanelFixture::settle();
+}
+
+void tst_Contract::fuzz_findings_stay_fixed_data()
+{
+    QTest::addColumn<QString>("input");
+    QVERIFY2(!g_fuzzFindings.isEmpty() || !m_tableError.isEmpty(), "no fuzz rows in contract.txt");
+    for (const auto& f : qAsConst(g_fuzzFindings))
+        QTest::newRow(qPrintable(f.second)) << f.first;
+}
+
+/* The input runs on the fuzzer's own panel, as when it was found; a fault aborts the test. */
+void tst_Contract::fuzz_findings_stay_fixed()
+{
+    QFETCH(QString, input);
+    QFile f(sourceDir() + QStringLiteral("/tests/fuzz/corpus/") + input);
+    QVERIFY2(f.open(QIODevice::ReadOnly), qPrintable(f.fileName()));
+    const QByteArray bytes = f.readAll();
+    m_panel.stop();
+    InterfaceFuzzer fuzzer;
+    QVERIFY(fuzzer.start());
+    fuzzer.run(reinterpret_cast<const uint8_t*>(bytes.constData()), size_t(bytes.size()));
+    QVERIFY(fuzzer.operationsRun() > 0);
 }
 
 QGUI_GUIAPP_TEST_MAIN(tst_Contract)

@@ -387,11 +387,12 @@ int InterfaceFuzzer::run(const uint8_t* data, size_t size)
     FuzzInput in(data, size);
     for (int n = 0; n < 64 && !in.atEnd(); ++n) {
         const Operation& op = operationFor(in.u16());
-        const size_t at = in.consumed();
+        if (m_trace)
+            std::fprintf(stderr, "  %-36s from byte %zu", op.name, in.consumed());
         const long long result = op.run(in);
         ++m_ops;
         if (m_trace)
-            std::fprintf(stderr, "  %-36s bytes %zu..%zu -> %lld\n", op.name, at, in.consumed(), result);
+            std::fprintf(stderr, " to %zu -> %lld\n", in.consumed(), result);
         in.clear(); // what the records pointed to goes: the library must have copied what it keeps
     }
     cleanUp();

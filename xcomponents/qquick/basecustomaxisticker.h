@@ -29,7 +29,7 @@ public:
 
     int getSubTickCount() const { return m_subTickCount; }
     /** Minor ticks between two major ticks (negative counts as 0). */
-    void setSubTickCount(int count) { m_subTickCount = qMax(0, count); }
+    void setSubTickCount(int count) { m_subTickCount = qBound(0, count, 100); }
 
     /** Date/time format of time labels (QDateTime::toString form; empty: chosen by the tick step). */
     QString clockFormat() const { return m_clockFormat; }

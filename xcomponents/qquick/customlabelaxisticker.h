@@ -44,7 +44,7 @@ public:
     double low() const { return m_low; }
     double high() const { return m_high; }
     /** Minor ticks between two major ticks (negative counts as 0). */
-    void setSubTickCount(int count) { m_subTickCount = qMax(0, count); }
+    void setSubTickCount(int count) { m_subTickCount = qBound(0, count, 100); }
     int subTickCount() const { return m_subTickCount; }
     bool flagXY() const { return m_flagXY; }
     void setFlagXY(bool xy) { m_flagXY = xy; }
