@@ -19,13 +19,19 @@ export XDG_RUNTIME_DIR=$(mktemp -d)
 chmod 700 "$XDG_RUNTIME_DIR"
 export QT_QPA_PLATFORM=xcb
 target=$QGUI_BUILD_DIR/tests/fuzz/fuzz_interface
-cd "$QGUI_BUILD_DIR"
 if [ $# -gt 0 ]; then
-  exec xvfb-run -a -s "-screen 0 1280x1024x24 -nolisten tcp" "$target" "$@"
+  # input files as absolute paths: the target works in a temporary folder of its own
+  args=()
+  for a in "$@"; do
+    case "$a" in -*) args+=("$a") ;; *) args+=("$(realpath "$a")") ;; esac
+  done
+  exec xvfb-run -a -s "-screen 0 1280x1024x24 -nolisten tcp" "$target" "${args[@]}"
 fi
-mkdir -p corpus
-# one input at a time (the panel is one per process); inputs up to 4 KB; leaks are the soak's business
+cd "$QGUI_BUILD_DIR"
+mkdir -p "$QGUI_BUILD_DIR/corpus"
+# one input at a time (the panel is one per process); inputs up to 4 KB; leaks are the soak's business.
+# Paths are absolute: the target works in a temporary folder of its own.
 exec xvfb-run -a -s "-screen 0 1280x1024x24 -nolisten tcp" "$target" \
     -max_total_time="${QGUI_FUZZ_SECONDS:-600}" -max_len=4096 -timeout=20 -rss_limit_mb=4096 \
     -dict="$here/tests/fuzz/interface.dict" -print_final_stats=1 -detect_leaks=0 \
-    corpus "$here/tests/fuzz/corpus"
+    "$QGUI_BUILD_DIR/corpus" "$here/tests/fuzz/corpus"

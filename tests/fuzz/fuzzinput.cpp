@@ -214,9 +214,11 @@ const char* FuzzInput::text(bool nullable)
     return m_texts.back().c_str();
 }
 
-size_t FuzzInput::count(bool large)
+size_t FuzzInput::count(bool large, bool* nullArray)
 {
     const uint8_t s = next(Reading::Count);
+    if (nullArray)
+        *nullArray = s >= 252;
     if (s < 240)
         return s % 33;
     if (!large)

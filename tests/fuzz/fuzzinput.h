@@ -48,8 +48,9 @@ public:
     /** A text: null (when \a nullable), empty, multibyte, invalid UTF-8, 64 KB, or up to 255 input bytes.
      *  Never an absolute path or one that climbs out of the working folder. */
     const char* text(bool nullable = true);
-    /** How many elements an array gets: mostly 0..32; \a large allows 1,000 and 100,000. */
-    size_t count(bool large);
+    /** How many elements an array gets: mostly 0..32; \a large allows 1,000 and 100,000. \a nullArray
+     *  tells whether the array's pointer is to be null whatever its count (1 in 64). */
+    size_t count(bool large, bool* nullArray = nullptr);
     /** Whether a pointer to one record is null (1 in 16). */
     bool nullPointer();
 

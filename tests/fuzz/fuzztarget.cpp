@@ -17,15 +17,16 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
     static int appArgc = 1;
     static char* appArgv[] = { (*argv)[0], nullptr };
     (void)argc;
-    static GuiApplication app(appArgc, appArgv);
-    app.setAttribute(Qt::AA_Use96Dpi, true);
+    // made once and never destroyed: libFuzzer ends the process with exit(), when Qt's own global objects
+    // may be gone already
+    auto* app = new GuiApplication(appArgc, appArgv);
+    app->setAttribute(Qt::AA_Use96Dpi, true);
     registerQmlTypes();
-    static InterfaceFuzzer fuzzer;
-    if (!fuzzer.start()) {
+    g_fuzzer = new InterfaceFuzzer;
+    if (!g_fuzzer->start()) {
         std::fprintf(stderr, "fuzz: the panel did not start\n");
-        std::exit(2);
+        std::_Exit(2);
     }
-    g_fuzzer = &fuzzer;
     return 0;
 }
 

@@ -75,7 +75,8 @@ struct Filler {
         using E = std::remove_const_t<std::remove_pointer_t<P>>;
         static_assert(std::is_trivially_copyable<E>::value, "arrays of plain records");
         // plain small elements may come by the hundred thousand; records with records inside by the dozen
-        size_t n = depth >= kMaxDepth ? 0 : in.count(sizeof(E) <= 16);
+        bool nullArray = false;
+        size_t n = depth >= kMaxDepth ? 0 : in.count(sizeof(E) <= 16, &nullArray);
         if (depth > 0)
             n = std::min<size_t>(n, 8);
         auto* arr = static_cast<E*>(in.keep(n * sizeof(E)));
@@ -84,7 +85,8 @@ struct Filler {
             fillValue(arr[i], in, depth + 1);
         for (size_t i = filled; i < n; ++i)
             arr[i] = arr[i % filled];
-        pointer = n ? arr : (in.nullPointer() ? nullptr : arr);
+        // a null array with a count: the count must not be believed
+        pointer = nullArray ? nullptr : n ? arr : (in.nullPointer() ? nullptr : arr);
         count = C(n);
     }
 };
