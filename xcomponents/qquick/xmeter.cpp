@@ -10,6 +10,22 @@
 
 #include <cmath>
 
+namespace {
+
+/* QPainter's arcs are in sixteenths of a degree, as ints: a start of any size is taken round the circle and
+ * a sweep of more than a turn is a full turn. */
+int arcStart16(qreal degrees)
+{
+    return qRound(std::fmod(degrees, 360.0) * 16);
+}
+
+int arcSpan16(qreal degrees)
+{
+    return qRound(qBound<qreal>(-360, degrees, 360) * 16);
+}
+
+} // namespace
+
 XMeter::XMeter(QQuickItem* parent)
     : XBasePaintedItem(parent)
     , m_needle(new XShapeItem(this))
@@ -168,11 +184,11 @@ void XMeter::paint(QPainter* painter)
         const qreal ar = scaleR - band / 2;
         painter->setPen(QPen(m_alarmColor, band, Qt::SolidLine, Qt::FlatCap));
         painter->setBrush(Qt::NoBrush);
-        painter->drawArc(QRectF(c.x() - ar, c.y() - ar, 2 * ar, 2 * ar), qRound(a0 * 16), qRound((a1 - a0) * 16));
+        painter->drawArc(QRectF(c.x() - ar, c.y() - ar, 2 * ar, 2 * ar), arcStart16(a0), arcSpan16(a1 - a0));
     }
     painter->setPen(m_scalePen);
     painter->setBrush(Qt::NoBrush);
-    painter->drawArc(scaleBox, qRound(start * 16), qRound(span * 16));
+    painter->drawArc(scaleBox, arcStart16(start), arcSpan16(span));
     // ticks pointing inwards from the scale line, labels inside them
     const int majors = qBound(1, m_scale.majorCount(), 1000);
     const int minors = qBound(0, m_scale.minorCount(), 100);
