@@ -130,12 +130,15 @@ Qt::Alignment Core::toQAlignment(unsigned word)
 
 QRect Core::toQRect(const Rect& rect)
 {
-    // negative sizes are empty; a box reaching past the largest coordinate ends there
-    auto extent = [](int origin, int size) {
-        const qint64 largest = qint64(std::numeric_limits<int>::max()) - qMax(0, origin);
+    // negative sizes are empty; a box reaching past the largest coordinate ends there, and one at the
+    // smallest starts a pixel later (an empty box there would end before the smallest coordinate)
+    auto origin = [](int at) { return qMax(at, std::numeric_limits<int>::min() + 1); };
+    auto extent = [](int at, int size) {
+        const qint64 largest = qint64(std::numeric_limits<int>::max()) - qMax(0, at);
         return int(qMin<qint64>(qMax(0, size), largest));
     };
-    return QRect(rect.x, rect.y, extent(rect.x, rect.width), extent(rect.y, rect.height));
+    const int x = origin(rect.x), y = origin(rect.y);
+    return QRect(x, y, extent(x, rect.width), extent(y, rect.height));
 }
 
 QColor Core::toFontColor(const Brush* brush)

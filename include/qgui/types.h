@@ -25,8 +25,8 @@ typedef int ErrRet;
 
 /** Rectangle in panel pixels. */
 struct Rect {
-    int x; /**< left edge */
-    int y; /**< top edge */
+    int x; /**< left edge; INT_MIN counts as INT_MIN + 1 */
+    int y; /**< top edge; as the left edge */
     int width; /**< width; negative sizes are treated as 0, and a box reaching past INT_MAX ends there */
     int height; /**< height; as the width */
 };

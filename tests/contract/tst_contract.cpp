@@ -733,11 +733,12 @@ void tst_Contract::every_kind_takes_enormous_and_negative_boxes_data()
 {
     QTest::addColumn<int>("kind");
     QTest::addColumn<Rect>("box");
-    // (found by the fuzzer: INT_MAX from an origin past 0 overflowed the box's right edge)
+    // (found by the fuzzer: INT_MAX from an origin past 0 overflowed the box's right edge, an empty box at
+    // INT_MIN its left edge)
     const QList<Rect> boxes { { 0, 0, 100000, 100000 }, { 0, 0, INT_MAX, INT_MAX }, { 50, 50, -300, -200 },
-        { INT_MIN, INT_MIN, INT_MAX, INT_MAX }, { 40, 40, INT_MAX, INT_MAX } };
+        { INT_MIN, INT_MIN, INT_MAX, INT_MAX }, { 40, 40, INT_MAX, INT_MAX }, { INT_MIN, INT_MIN, 0, 0 } };
     const char* const boxNames[] = { "100000 x 100000", "INT_MAX", "negative size", "INT_MIN origin",
-        "INT_MAX from 40" };
+        "INT_MAX from 40", "empty at INT_MIN" };
     for (int k = 0; k < widgetKinds().size(); ++k) {
         for (int b = 0; b < boxes.size(); ++b)
             QTest::addRow("%s, %s", widgetKinds().at(k).name, boxNames[b]) << k << boxes.at(b);

@@ -5,7 +5,7 @@
 //   tst_fuzzreplay [options] [file or folder ...]
 //     no paths             the seed corpus and dictionary beside the sources (QGUI_TEST_SOURCE_DIR)
 //     --seconds N          mutate for N seconds after the replay (default QGUI_FUZZ_SECONDS, else 20)
-//     --seed N             the mutation's random seed (default: the time; printed)
+//     --seed N             the mutation's random seed (default QGUI_FUZZ_SEED, else the time; printed)
 //     --dict FILE          tokens to insert (libFuzzer's dictionary format)
 //     --write-seeds DIR    writes the seed corpus (one input per export, with a widget of its kind) and exits
 //     --write-dict FILE    writes the dictionary (every operation's code) and exits
@@ -212,7 +212,9 @@ int main(int argc, char** argv)
     QString dict, seedsDir, dictOut;
     bool list = false;
     int seconds = qEnvironmentVariableIsSet("QGUI_FUZZ_SECONDS") ? qEnvironmentVariableIntValue("QGUI_FUZZ_SECONDS") : 20;
-    unsigned seed = unsigned(QDateTime::currentMSecsSinceEpoch());
+    // ctest fixes the seed (QGUI_FUZZ_SEED): a run finds the same faults until the code changes
+    unsigned seed = qEnvironmentVariableIsSet("QGUI_FUZZ_SEED") ? qEnvironmentVariable("QGUI_FUZZ_SEED").toUInt()
+                                                                 : unsigned(QDateTime::currentMSecsSinceEpoch());
     for (int i = 1; i < argc; ++i) {
         const QString a = QString::fromLocal8Bit(argv[i]);
         const QString next = i + 1 < argc ? QString::fromLocal8Bit(argv[i + 1]) : QString();
