@@ -73,7 +73,7 @@ QList<QByteArray> readDictionary(const QString& path)
         const QByteArray esc = m.captured(1).toLatin1();
         QByteArray token;
         for (int i = 0; i < esc.size(); ++i) {
-            if (esc[i] == '\\' && i + 3 < esc.size() + 0 && esc[i + 1] == 'x') {
+            if (esc[i] == '\\' && i + 3 < esc.size() && esc[i + 1] == 'x') {
                 token += char(esc.mid(i + 2, 2).toInt(nullptr, 16));
                 i += 3;
             } else if (esc[i] == '\\' && i + 1 < esc.size()) {

@@ -10,7 +10,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QQmlEngine>
 #include <QTemporaryDir>
 
 #include <qgui/qgui.h>

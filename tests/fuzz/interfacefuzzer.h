@@ -20,7 +20,7 @@ class QTemporaryDir;
  * export's arguments follow, read by FuzzInput (records filled field by field, ids from a pool of made,
  * deleted and random ids). After the program every widget is deleted and the registry must be empty; a
  * plain creation must then work. A broken rule aborts the process, which the fuzzer reports as a crash.
- * Each input starts on a fresh panel: desktop 1 with window 1 shown, 800 x 480.
+ * Each input starts on a fresh registry in the same scene: desktop 1 with window 1 shown, 800 x 480.
  */
 class InterfaceFuzzer {
 public:
