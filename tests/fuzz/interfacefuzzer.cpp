@@ -8,7 +8,6 @@
 #include "app/xquickview.h"
 #include "views/viewmanage.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QTemporaryDir>
 
@@ -54,6 +53,18 @@ constexpr int kMaxDepth = 4; ///< nesting of records through pointers (tree node
 
 template <typename T>
 void fillValue(T& v, FuzzInput& in, int depth);
+
+/* One record behind a pointer (a font, a layout, a call's record): null, or filled and kept until the input
+ * is cleared. */
+template <typename E>
+E* oneRecord(FuzzInput& in, int depth)
+{
+    if (in.nullPointer())
+        return nullptr;
+    auto* e = new (in.keep(sizeof(E))) E {};
+    fillValue(*e, in, depth);
+    return e;
+}
 
 /* Makes one record's fields from the input. */
 struct Filler {
@@ -128,14 +139,7 @@ void fillValue(T& v, FuzzInput& in, int depth)
         v = nullptr; // call-backs of a record: the fuzzer has none to give
     } else if constexpr (std::is_pointer<T>::value) {
         // one record behind a pointer (a font, a layout): null or filled
-        using E = std::remove_const_t<std::remove_pointer_t<T>>;
-        if (depth >= kMaxDepth || in.nullPointer()) {
-            v = nullptr;
-        } else {
-            auto* e = new (in.keep(sizeof(E))) E {};
-            fillValue(*e, in, depth + 1);
-            v = e;
-        }
+        v = depth >= kMaxDepth ? nullptr : oneRecord<std::remove_const_t<std::remove_pointer_t<T>>>(in, depth + 1);
     } else if constexpr (HasFields<T>::value) {
         Filler f { in, depth };
         Fields<T>::each(v, f);
@@ -228,11 +232,7 @@ struct Arg {
         } else if constexpr (std::is_pointer<V>::value) {
             using E = std::remove_const_t<std::remove_pointer_t<V>>;
             if constexpr (std::is_class<E>::value) {
-                if (in.nullPointer())
-                    return nullptr;
-                auto* e = new (in.keep(sizeof(E))) E {};
-                fillValue(*e, in, 0);
-                return e;
+                return oneRecord<E>(in, 0);
             } else {
                 // arrays of numbers (limits, paging values): 64 of them
                 auto* arr = static_cast<E*>(in.keep(64 * sizeof(E)));
