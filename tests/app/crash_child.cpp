@@ -58,6 +58,12 @@ int main(int argc, char** argv)
         t.join();
         return 0;
     }
+    if (how == "thread-overflow") {
+        // a thread made after the handler runs out of stack: it needs a signal stack of its own
+        std::thread t([] { overflow(0); });
+        t.join();
+        return 0;
+    }
     crashNow(how);
     return 0;
 }

@@ -6,7 +6,13 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <csignal>
+#include <sys/mman.h>
+#include <thread>
+#include <vector>
+
 #include "app/ccrashstack.h"
+#include "app/threadsignalstack.h"
 #include "common/testutil.h"
 
 class tst_Crash : public QObject {
@@ -16,6 +22,7 @@ private Q_SLOTS:
     void a_crash_leaves_a_complete_report_data();
     void a_crash_leaves_a_complete_report();
     void report_file_name_has_date_and_time();
+    void every_new_thread_has_a_signal_stack();
     void replaced_handlers_are_put_back();
 };
 
@@ -35,6 +42,7 @@ void tst_Crash::a_crash_leaves_a_complete_report_data()
     QTest::newRow("bad system call") << "sys" << int(SIGSYS) << "";
     QTest::newRow("another thread") << "thread" << int(SIGSEGV) << "Read Address: 0000000000000010";
     QTest::newRow("stack overflow") << "overflow" << int(SIGSEGV) << "Write Address: ";
+    QTest::newRow("stack overflow on another thread") << "thread-overflow" << int(SIGSEGV) << "Write Address: ";
 }
 
 void tst_Crash::a_crash_leaves_a_complete_report()
@@ -91,6 +99,35 @@ void tst_Crash::report_file_name_has_date_and_time()
     const QString expected = "halvex_crash_" + QDateTime::currentDateTime().toString("yyyyMMdd_hh");
     QVERIFY2(name.startsWith(expected.left(21)), qPrintable(name));
     QVERIFY(name.endsWith(".log"));
+}
+
+void tst_Crash::every_new_thread_has_a_signal_stack()
+{
+    int with = 0;
+    int stillMapped = 0;
+    for (int round = 0; round < 50; ++round) {
+        std::vector<std::thread> threads;
+        std::vector<void*> stacks(8, nullptr);
+        for (int i = 0; i < 8; ++i) {
+            threads.emplace_back([&stacks, i] {
+                stack_t cur {};
+                if (sigaltstack(nullptr, &cur) == 0 && !(cur.ss_flags & SS_DISABLE) && cur.ss_size >= MINSIGSTKSZ)
+                    stacks[i] = cur.ss_sp;
+            });
+        }
+        for (auto& t : threads)
+            t.join();
+        for (void* stack : stacks) {
+            with += stack != nullptr;
+            unsigned char page = 0;
+            // mincore() fails with ENOMEM for an address that is no longer mapped
+            if (stack && mincore(stack, 4096, &page) == 0)
+                ++stillMapped;
+        }
+    }
+    QCOMPARE(with, 400);
+    if (ThreadSignalStack::coversNewThreads())
+        QCOMPARE(stillMapped, 0); // each thread's stack is given back when it ends
 }
 
 void tst_Crash::replaced_handlers_are_put_back()
