@@ -1,5 +1,6 @@
 #include "app/xquickview.h"
 
+#include "app/framepacer.h"
 #include "app/guishell.h"
 #include "config/globalconfig.h"
 #include "platform/logiclayercaller.h"
@@ -12,6 +13,7 @@
 
 XQuickView::XQuickView(QWindow* parent)
     : QQuickView(parent)
+    , m_pacer(FramePacer::enabledByEnvironment() ? new FramePacer(this) : nullptr)
 {
 }
 
@@ -56,6 +58,8 @@ void XQuickView::onChangeZoom(int index, const QString& percent)
 bool XQuickView::event(QEvent* event)
 {
     Q_EMIT beforeEvent(event);
+    if (m_pacer && m_pacer->holdUpdate(event))
+        return true;
     return QQuickView::event(event);
 }
 

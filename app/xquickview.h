@@ -5,6 +5,8 @@
 
 #include "config/viewscalesource.h"
 
+class FramePacer;
+
 /**
  * The top-level view of the panel. Besides QQuickView's operations it has
  *  - the resize mode 2 (SizeRootObjectToViewFirst): on every resize the scene's
@@ -13,7 +15,9 @@
  *  - physical keys reported to the logic layer as events 259 (pressed) and
  *    260 (released) with id 0, before they reach the scene. Auto-repeated key
  *    events are dropped entirely; synthesised keys (native scan code 0, such as
- *    those of the on-screen keyboard) reach the scene but are not reported.
+ *    those of the on-screen keyboard) reach the scene but are not reported;
+ *  - frame pacing (FramePacer): an update request never makes the GUI thread
+ *    wait for the frame before it to be rendered.
  */
 class XQuickView : public QQuickView, public ViewScaleSource {
     Q_OBJECT
@@ -38,6 +42,8 @@ public:
     /** Sets the panel control's scale; emits nothing (onChangeZoom does). */
     void setRootItemScale(double scale);
     int zoomIndex() const { return m_zoomIndex; }
+    /** The frame pacer, null when QGUI_FRAME_PACING=0. */
+    FramePacer* framePacer() const { return m_pacer; }
 
     /** The key code reported for a key event: the first character of its text in Latin-1 (a
      *  signed byte), or Escape 27, Backspace 8, Return/Enter 13, Delete 127, else the Qt key. */
@@ -61,6 +67,7 @@ private:
     /** True when the key event must go no further. */
     bool reportKey(QKeyEvent* event, int code);
 
+    FramePacer* m_pacer;
     XResizeMode m_resizeMode = SizeRootObjectToView;
     int m_zoomIndex = -1;
 };

@@ -21,6 +21,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QProcess>
@@ -39,6 +40,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <list>
+#include <map>
 #include <memory>
 #include <string>
 #include <unistd.h>
@@ -67,6 +69,15 @@ bool part(const char* name)
     return list.find(std::string(",") + name + ",") != std::string::npos;
 }
 
+/** Gaps longer than this are printed with their cause: QGUI_CYCLE_REPORT_MS, default 20. */
+double reportAboveMs()
+{
+    static const double ms = qEnvironmentVariableIsSet("QGUI_CYCLE_REPORT_MS")
+        ? qEnvironmentVariable("QGUI_CYCLE_REPORT_MS").toDouble()
+        : 20.0;
+    return ms;
+}
+
 struct Gaps {
     std::vector<double> ms;
     Clock::time_point last;
@@ -83,7 +94,7 @@ struct Gaps {
         } else if (std::chrono::duration<double, std::milli>(now - from).count() > kWarmupMs) {
             const double gap = std::chrono::duration<double, std::milli>(now - last).count();
             ms.push_back(gap);
-            if (gap > 20)
+            if (gap > reportAboveMs())
                 std::printf("gap %.1f ms after: %s\n", gap, cause.c_str());
         }
         last = now;
@@ -110,6 +121,34 @@ void printFigures(const char* who, const std::vector<double>& gaps)
         gaps.empty() ? 0.0 : *std::max_element(gaps.begin(), gaps.end()),
         long(std::count_if(gaps.begin(), gaps.end(), [](double g) { return g > 50; })));
     std::fflush(stdout);
+}
+
+/** CPU time of each thread of this process, by thread name, in seconds (threads that ended are not
+ *  counted). */
+void printThreadCpu(const char* who)
+{
+    std::map<std::string, double> byName;
+    const long ticks = ::sysconf(_SC_CLK_TCK);
+    QDir tasks(QStringLiteral("/proc/self/task"));
+    for (const QString& tid : tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QFile stat(tasks.filePath(tid + QStringLiteral("/stat")));
+        if (!stat.open(QIODevice::ReadOnly))
+            continue;
+        const QByteArray line = stat.readAll();
+        const int open = line.indexOf('('), close = line.lastIndexOf(')');
+        const QList<QByteArray> fields = line.mid(close + 2).split(' ');
+        if (open < 0 || close < 0 || fields.size() < 13)
+            continue;
+        byName[line.mid(open + 1, close - open - 1).toStdString()]
+            += double(fields.at(11).toLongLong() + fields.at(12).toLongLong()) / double(ticks);
+    }
+    std::string text;
+    for (const auto& [name, seconds] : byName) {
+        char one[96];
+        std::snprintf(one, sizeof(one), "%s%s %.2f", text.empty() ? "" : ", ", name.c_str(), seconds);
+        text += one;
+    }
+    std::printf("CPU seconds by thread (%s): %s\n", who, text.c_str());
 }
 
 /* ---------- the bare side: plain Qt Quick, plain QTimer ---------- */
@@ -163,6 +202,7 @@ int runBare(int argc, char** argv)
     timer.start(10);
     app.exec();
     printFigures("bare", gaps.ms);
+    printThreadCpu("bare");
     return 0;
 }
 
@@ -170,10 +210,24 @@ int runBare(int argc, char** argv)
 
 Gaps g_gaps;
 int g_cycle = 0;
+bool g_quitting = false;
 // the GUI thread's wait for each frame's synchronisation: from the end of its animations (GUI thread) to the
 // end of the synchronisation (render thread, while the GUI thread is blocked)
 std::atomic<qint64> g_animatedNs { 0 };
 std::atomic<qint64> g_syncWaitNs { 0 }; // the longest wait since the last 10 ms call-back
+std::atomic<qint64> g_syncPartNs { 0 }; // of that wait, the synchronisation itself
+// the render thread's side of each frame: synchronisation and rendering (with the swap), for the summary
+struct FrameTimes {
+    std::atomic<qint64> syncStart { 0 }, renderStart { 0 };
+    std::atomic<qint64> frames { 0 }, syncNs { 0 }, syncMaxNs { 0 }, renderNs { 0 }, renderMaxNs { 0 };
+    std::atomic<qint64> syncs { 0 }, beforeNs { 0 }, beforeMaxNs { 0 }; // afterAnimating to the synchronisation
+    static void add(std::atomic<qint64>& sum, std::atomic<qint64>& max, qint64 ns)
+    {
+        sum += ns;
+        if (ns > max.load())
+            max = ns;
+    }
+} g_frames;
 QElapsedTimer g_clock;
 std::string g_cause = "the event loop";
 std::unique_ptr<MosquittoBroker> g_broker;
@@ -293,6 +347,7 @@ int onDeviceInit(unsigned, const char*, const char*, const unsigned*)
 
 int onStart()
 {
+
     return 0;
 }
 
@@ -308,20 +363,62 @@ void watchFrames()
     g_clock.start();
     QObject::connect(window, &QQuickWindow::afterAnimating, window, [] { g_animatedNs = g_clock.nsecsElapsed(); },
         Qt::DirectConnection);
+    QObject::connect(window, &QQuickWindow::beforeSynchronizing, window,
+        [] {
+            g_frames.syncStart = g_clock.nsecsElapsed();
+            ++g_frames.syncs;
+            FrameTimes::add(g_frames.beforeNs, g_frames.beforeMaxNs, g_frames.syncStart - g_animatedNs.load());
+        }, Qt::DirectConnection);
     QObject::connect(window, &QQuickWindow::afterSynchronizing, window, [] {
-        const qint64 wait = g_clock.nsecsElapsed() - g_animatedNs.load();
-        if (wait > g_syncWaitNs.load())
+        const qint64 now = g_clock.nsecsElapsed();
+        const qint64 wait = now - g_animatedNs.load();
+        if (wait > g_syncWaitNs.load()) {
             g_syncWaitNs = wait;
+            g_syncPartNs = now - g_frames.syncStart;
+        }
+        FrameTimes::add(g_frames.syncNs, g_frames.syncMaxNs, now - g_frames.syncStart);
     }, Qt::DirectConnection);
+    QObject::connect(window, &QQuickWindow::beforeRendering, window,
+        [] { g_frames.renderStart = g_clock.nsecsElapsed(); }, Qt::DirectConnection);
+    QObject::connect(window, &QQuickWindow::frameSwapped, window, [] {
+        ++g_frames.frames;
+        FrameTimes::add(g_frames.renderNs, g_frames.renderMaxNs, g_clock.nsecsElapsed() - g_frames.renderStart);
+    }, Qt::DirectConnection);
+}
+
+/** The GUI thread's time on a core and waiting for one (runnable), from the scheduler, in ns. */
+bool schedTimes(long long& running, long long& waiting)
+{
+    FILE* f = std::fopen("/proc/thread-self/schedstat", "r");
+    if (!f)
+        return false;
+    const bool ok = std::fscanf(f, "%lld %lld", &running, &waiting) == 2;
+    std::fclose(f);
+    return ok;
 }
 
 void every10ms()
 {
     watchFrames();
+    static long long lastRunning = 0, lastWaiting = 0;
+    long long running = 0, waiting = 0;
+    if (schedTimes(running, waiting)) {
+        if (lastRunning) {
+            char sched[96];
+            std::snprintf(sched, sizeof(sched), "; the GUI thread ran %.1f ms and waited %.1f ms for a core",
+                (running - lastRunning) / 1e6, (waiting - lastWaiting) / 1e6);
+            g_cause += sched;
+        }
+        lastRunning = running;
+        lastWaiting = waiting;
+    }
     const double syncMs = g_syncWaitNs.exchange(0) / 1e6;
+    const double syncPartMs = g_syncPartNs.exchange(0) / 1e6;
     if (syncMs > 5) {
-        char wait[96];
-        std::snprintf(wait, sizeof(wait), "; the GUI thread waited %.1f ms for a frame's synchronisation", syncMs);
+        char wait[160];
+        std::snprintf(wait, sizeof(wait),
+            "; the GUI thread waited %.1f ms for a frame (polish and the render thread %.1f, synchronisation %.1f)",
+            syncMs, syncMs - syncPartMs, syncPartMs);
         g_cause += wait;
     }
     g_gaps.tick(g_cause);
@@ -340,8 +437,11 @@ void every10ms()
     std::snprintf(cause, sizeof(cause), "View_ChangeTextContent x%d %.1f ms, View_CarouselText %.1f ms", kPerCycle,
         textsMs, marqueeMs);
     g_cause = textsMs + marqueeMs > 5 ? std::string(cause) : std::string("the event loop");
-    if (g_gaps.elapsedMs() > g_seconds * 1000.0 + kWarmupMs)
+    if (g_gaps.elapsedMs() > g_seconds * 1000.0 + kWarmupMs && !g_quitting) {
+        g_quitting = true;
+        printThreadCpu("ours");
         ::kill(::getpid(), SIGTERM); // the library quits cleanly on SIGTERM
+    }
 }
 
 void every100ms(int)
@@ -432,6 +532,15 @@ int main(int argc, char** argv)
     xDatabase::db_close();
     g_broker.reset();
     printFigures("ours", g_gaps.ms);
+    if (const qint64 n = g_frames.frames.load()) {
+        std::printf("frames: %lld, synchronisation avg %.2f max %.2f ms, rendering and swap avg %.2f max %.2f ms\n",
+            (long long)n, g_frames.syncNs / 1e6 / double(n), g_frames.syncMaxNs / 1e6, g_frames.renderNs / 1e6 / double(n),
+            g_frames.renderMaxNs / 1e6);
+        std::printf("synchronisations: %lld, from the animations' end to the synchronisation (polish and wait for the render "
+                    "thread) avg %.2f max %.2f ms\n",
+            (long long)g_frames.syncs.load(), g_frames.beforeNs / 1e6 / double(g_frames.syncs.load()),
+            g_frames.beforeMaxNs / 1e6);
+    }
     if (bareFigures.size() == 4 && !g_gaps.ms.empty()) {
         Bench::report("10 ms cycle on a busy panel, gap p99.9", percentile(g_gaps.ms, 99.9), bareFigures[2], "ms",
             "ours under 12 ms");

@@ -1,0 +1,76 @@
+#ifndef FRAMEPACER_H
+#define FRAMEPACER_H
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+
+#include <atomic>
+
+class QEvent;
+class QQuickWindow;
+
+/**
+ * Keeps the GUI thread from waiting on the render thread.
+ *
+ * A frame starts on the GUI thread with an update request: the scene is
+ * polished and then synchronised with the render thread while the GUI thread
+ * is blocked. The render thread takes the synchronisation only when it is
+ * free: after it has rendered and swapped the frame before, or, when that
+ * synchronisation found nothing to render, after it has idled out the rest of
+ * a refresh interval. Under a software renderer either lasts about as long as
+ * a 10 ms cycle, and the logic layer's cycle would stall for it.
+ *
+ * The pacer holds an update request that arrives while the render thread is
+ * busy and lets it go the moment it is free (at the swap, or at the end of the
+ * idle interval). Nothing is lost: requests made while one is held are the
+ * same request, and the held one carries every change made meanwhile. A
+ * rendering that never reports its swap (a lost surface) releases the request
+ * after kReleaseAfterMs.
+ *
+ * QGUI_FRAME_PACING=0 turns it off (every request then goes straight to the
+ * render loop).
+ */
+class FramePacer : public QObject {
+    Q_OBJECT
+
+public:
+    static constexpr int kReleaseAfterMs = 50;
+
+    /** Watches \a window's render thread; the window calls holdUpdate() from its event(). */
+    explicit FramePacer(QQuickWindow* window);
+
+    /** True when \a event is an update request that is held until the render thread is free;
+     *  the window then returns without handling it. */
+    bool holdUpdate(QEvent* event);
+
+    /** The update requests held so far, those let go at a swap, and those the safety timer
+     *  let go while a rendering was still under way. */
+    quint64 heldCount() const { return m_heldCount; }
+    quint64 releasedAtSwapCount() const { return m_releasedAtSwap; }
+    quint64 timedOutCount() const { return m_timedOut; }
+
+    static bool enabledByEnvironment();
+
+private:
+    /** How long the render thread stays busy: -1 until a swap, else nanoseconds (0: free). */
+    qint64 busyForNs() const;
+    qint64 refreshIntervalNs() const;
+    /** Lets a held request go once the render thread is free; true when it went. */
+    bool tryRelease();
+
+    QQuickWindow* m_window;
+    QTimer m_retry;
+    QElapsedTimer m_clock;
+    QElapsedTimer m_heldSince;
+    std::atomic<qint64> m_syncStartNs { 0 };
+    std::atomic<bool> m_renderedSinceSync { true };
+    std::atomic<bool> m_rendering { false };
+    bool m_held = false;
+    bool m_releasing = false;
+    quint64 m_heldCount = 0;
+    quint64 m_releasedAtSwap = 0;
+    quint64 m_timedOut = 0;
+};
+
+#endif // FRAMEPACER_H
