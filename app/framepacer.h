@@ -35,7 +35,7 @@ class FramePacer : public QObject {
     Q_OBJECT
 
 public:
-    static constexpr int kReleaseAfterMs = 50;
+    static constexpr int kReleaseAfterMs = 250;
 
     /** Watches \a window's render thread; the window calls holdUpdate() from its event(). */
     explicit FramePacer(QQuickWindow* window);

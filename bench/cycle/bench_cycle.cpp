@@ -95,7 +95,7 @@ struct Gaps {
             const double gap = std::chrono::duration<double, std::milli>(now - last).count();
             ms.push_back(gap);
             if (gap > reportAboveMs())
-                std::printf("gap %.1f ms after: %s\n", gap, cause.c_str());
+                std::printf("gap %.1f ms at %.1f s after: %s\n", gap, elapsedMs() / 1000.0, cause.c_str());
         }
         last = now;
     }
