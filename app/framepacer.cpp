@@ -23,10 +23,14 @@ FramePacer::FramePacer(QQuickWindow* window)
     }, Qt::DirectConnection);
     connect(window, &QQuickWindow::beforeRendering, this, [this] {
         m_renderedSinceSync = true;
+        m_renderedAtNs = -1;
         m_rendering = true;
     }, Qt::DirectConnection);
+    connect(window, &QQuickWindow::afterRendering, this, [this] { m_renderedAtNs = m_clock.nsecsElapsed(); },
+        Qt::DirectConnection);
     connect(window, &QQuickWindow::frameSwapped, this, [this] {
         m_rendering = false;
+        m_renderedAtNs = -1;
         QMetaObject::invokeMethod(this, [this] {
             if (tryRelease())
                 ++m_releasedAtSwap;
@@ -51,8 +55,15 @@ qint64 FramePacer::refreshIntervalNs() const
 
 qint64 FramePacer::busyForNs() const
 {
-    if (m_rendering)
-        return -1; // until the swap
+    if (m_rendering) {
+        const qint64 renderedAt = m_renderedAtNs;
+        if (renderedAt < 0)
+            return -1; // until the swap
+        // drawn and not swapped: a swap under way, or a grab into an image, which has none
+        const qint64 left = renderedAt + qint64(kSwapWaitMs) * 1000000 - m_clock.nsecsElapsed();
+        if (left > 0)
+            return left;
+    }
     if (m_renderedSinceSync)
         return 0;
     // a synchronisation that found nothing to render: the render thread idles out the rest

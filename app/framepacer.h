@@ -24,9 +24,10 @@ class QQuickWindow;
  * The pacer holds an update request that arrives while the render thread is
  * busy and lets it go the moment it is free (at the swap, or at the end of the
  * idle interval). Nothing is lost: requests made while one is held are the
- * same request, and the held one carries every change made meanwhile. A
- * rendering that never reports its swap (a lost surface) releases the request
- * after kReleaseAfterMs.
+ * same request, and the held one carries every change made meanwhile. A frame
+ * drawn into an image (a grab) has no swap: one drawn and not swapped within
+ * kSwapWaitMs is taken for one. A rendering that never reports its end (a lost
+ * surface) releases the request after kReleaseAfterMs.
  *
  * QGUI_FRAME_PACING=0 turns it off (every request then goes straight to the
  * render loop).
@@ -36,6 +37,8 @@ class FramePacer : public QObject {
 
 public:
     static constexpr int kReleaseAfterMs = 250;
+    /** A frame drawn but not swapped after this long was a grab into an image (it has no swap). */
+    static constexpr int kSwapWaitMs = 50;
 
     /** Watches \a window's render thread; the window calls holdUpdate() from its event(). */
     explicit FramePacer(QQuickWindow* window);
@@ -65,6 +68,7 @@ private:
     QElapsedTimer m_heldSince;
     std::atomic<qint64> m_syncStartNs { 0 };
     std::atomic<bool> m_renderedSinceSync { true };
+    std::atomic<qint64> m_renderedAtNs { -1 };
     std::atomic<bool> m_rendering { false };
     bool m_held = false;
     bool m_releasing = false;

@@ -13,8 +13,10 @@
 
 XQuickView::XQuickView(QWindow* parent)
     : QQuickView(parent)
-    , m_pacer(FramePacer::enabledByEnvironment() ? new FramePacer(this) : nullptr)
 {
+    // not in the initialiser list: making the pacer a child sends this view an event
+    if (FramePacer::enabledByEnvironment())
+        m_pacer = new FramePacer(this);
 }
 
 XQuickView::~XQuickView()

@@ -67,7 +67,7 @@ private:
     /** True when the key event must go no further. */
     bool reportKey(QKeyEvent* event, int code);
 
-    FramePacer* m_pacer;
+    FramePacer* m_pacer = nullptr;
     XResizeMode m_resizeMode = SizeRootObjectToView;
     int m_zoomIndex = -1;
 };

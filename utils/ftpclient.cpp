@@ -1,5 +1,7 @@
 #include "utils/ftpclient.h"
 
+#include <algorithm>
+
 #include "platform/nlogger.h"
 
 #include <QDir>
@@ -111,7 +113,13 @@ bool FtpClient::progress(qint64* done, qint64* total) const
         *done = m_done.load();
     if (total)
         *total = m_total.load();
-    return m_running.load();
+    if (m_running.load())
+        return true;
+    // a transfer accepted but not yet moving (queued, or checking the remote side) runs already
+    // for the caller: answering "none" then would let it touch the local file too early
+    auto isTransfer = [](const Job& job) { return job.command == FTP_CMD_PUT || job.command == FTP_CMD_PULL; };
+    std::lock_guard<std::mutex> lock(m_mutex);
+    return (m_busy && isTransfer(m_current)) || std::any_of(m_queue.begin(), m_queue.end(), isTransfer);
 }
 
 QByteArray FtpClient::url(const QString& remote) const

@@ -62,7 +62,7 @@ public:
     /** Blocks until the queue is empty and nothing runs, at most \a ms; true when idle. */
     bool waitIdle(int ms);
 
-    /** Bytes moved and expected by the running (or last) transfer; true while one runs. */
+    /** Bytes moved and expected by the running (or last) transfer; true while one is queued or runs. */
     bool progress(qint64* done, qint64* total) const;
 
     /** The URL of \a remote on this client's server, path segments percent-encoded. */

@@ -86,8 +86,10 @@ QGUI_EXPORT int Ftp_Pull(unsigned char client, const char* localPath, const char
 /**
  * Progress of the client's transfer, for a progress bar driven by the logic
  * layer's cycle: bytes moved so far and the file's size (0 while unknown).
- * Returns 1 while a transfer runs, 0 when none runs (the figures are then those
- * of the last transfer), -1 for an unknown client. Either pointer may be null.
+ * Returns 1 from the moment Ftp_Put or Ftp_Pull accepts a transfer until it
+ * has ended (a queued transfer counts, with the figures of the one before until
+ * it starts), 0 when none is queued or runs (the figures are then those of the
+ * last transfer), -1 for an unknown client. Either pointer may be null.
  */
 QGUI_EXPORT int Ftp_TransferProgress(unsigned char client, long long* done, long long* total);
 

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void pacing_follows_the_environment_data();
     void pacing_follows_the_environment();
     void the_last_change_is_rendered();
+    void a_grab_does_not_hold_frames_back();
 };
 
 void tst_FramePacer::pacing_follows_the_environment_data()
@@ -84,6 +85,34 @@ void tst_FramePacer::the_last_change_is_rendered()
 
     QVERIFY2(view.framePacer()->heldCount() > 0, "no request arrived during a rendering: the test proves nothing");
     QVERIFY(view.framePacer()->releasedAtSwapCount() > 0); // a swap lets the held request go at once
+}
+
+void tst_FramePacer::a_grab_does_not_hold_frames_back()
+{
+    // a grab draws a frame into an image and never swaps it: the pacer must not wait for that swap
+    XQuickView view;
+    QQmlComponent c(view.engine());
+    c.setData("import QtQuick 2.15\nRectangle { width: 200; height: 100; property int step: 0\n"
+              " Text { text: parent.step } }",
+        QUrl());
+    auto* root = qobject_cast<QQuickItem*>(c.create());
+    QVERIFY2(root, qPrintable(c.errorString()));
+    root->setParentItem(view.contentItem());
+    root->setParent(view.contentItem());
+    view.resize(200, 100);
+    view.show();
+    QVERIFY(TestUtil::waitForFrame(&view));
+    std::atomic<int> changed { 0 }, synced { 0 }, swapped { 0 };
+    connect(&view, &QQuickWindow::beforeSynchronizing, this, [&] { synced = changed.load(); },
+        Qt::DirectConnection);
+    connect(&view, &QQuickWindow::frameSwapped, this, [&] { swapped = synced.load(); }, Qt::DirectConnection);
+    for (int i = 1; i <= 5; ++i) {
+        QVERIFY(!view.grabWindow().isNull());
+        changed = i;
+        root->setProperty("step", i);
+        QTRY_COMPARE_WITH_TIMEOUT(swapped.load(), i, 2000);
+    }
+    QCOMPARE(view.framePacer()->timedOutCount(), quint64(0)); // no request waited for a swap that never came
 }
 
 QTEST_MAIN(tst_FramePacer)

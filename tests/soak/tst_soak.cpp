@@ -24,6 +24,7 @@
 
 #include <atomic>
 #include <cstdio>
+#include <malloc.h>
 #include <mutex>
 #include <thread>
 #include <unordered_set>
@@ -158,6 +159,14 @@ constexpr bool kMeasureMemory = false;
 constexpr bool kMeasureMemory = true;
 #endif
 constexpr long kMaxDriftKiB = 1024;
+
+/* The heap's bytes in use (not its free chunks): resident memory that grows while this does not is the
+ * allocator's fragmentation, not something kept. */
+long heapInUseKiB()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return long((info.uordblks + info.hblkhd) / 1024);
+}
 constexpr int kFullRun = 10000;
 
 /* Runs \a cycle n times (settling every 100), checks the snapshot against the one after the first
@@ -173,6 +182,7 @@ void soak(const char* what, int n, int warmUp, Cycle cycle)
     const Snapshot before = snapshot();
     const std::unordered_set<QObject*> objectsBefore = liveObjects();
     long rssFrom = TestUtil::residentKiB();
+    long heapFrom = heapInUseKiB();
     const int from = qMax(warmUp, n / 10);
     for (int i = warmUp; i < n; ++i) {
         cycle(i);
@@ -183,12 +193,14 @@ void soak(const char* what, int n, int warmUp, Cycle cycle)
         if (i == from) {
             snapshot(); // the same clean-up as at the end: garbage collected, deletions done
             rssFrom = TestUtil::residentKiB();
+            heapFrom = heapInUseKiB();
         }
     }
     const Snapshot after = snapshot();
     const long drift = TestUtil::residentKiB() - rssFrom;
-    std::printf("soak %-36s %6d cycles: %+ld objects, %+d ids, resident %+ld KiB from cycle %d\n", what, n,
-        after.objects - before.objects, after.ids - before.ids, drift, from);
+    const long heapDrift = heapInUseKiB() - heapFrom;
+    std::printf("soak %-36s %6d cycles: %+ld objects, %+d ids, resident %+ld KiB (heap in use %+ld KiB) from cycle %d\n",
+        what, n, after.objects - before.objects, after.ids - before.ids, drift, heapDrift, from);
     std::fflush(stdout);
     if (!after.noMoreThan(before)) {
         qWarning("left over: %s", qPrintable(leftOver(objectsBefore)));

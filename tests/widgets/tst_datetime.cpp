@@ -110,9 +110,17 @@ void tst_DateTime::press(QQuickItem* root, const QString& name)
 
 QImage tst_DateTime::grab()
 {
-    if (!TestUtil::waitForFrame(m_panel.view()))
-        return QImage();
-    return m_panel.view()->grabWindow();
+    // a popup's first frame may still be on its way to the final look: grab until two frames agree
+    QImage last;
+    for (int i = 0; i < 20; ++i) {
+        if (!TestUtil::waitForFrame(m_panel.view()))
+            return QImage();
+        QImage shot = m_panel.view()->grabWindow();
+        if (shot == last)
+            break;
+        last = shot;
+    }
+    return last;
 }
 
 void tst_DateTime::creation_takes_the_record_data()
