@@ -340,8 +340,11 @@ void XMqttClient::scheduleRetry()
 {
     if (!m_longConnect || m_userDisconnected || state() == Connected || m_connectPending)
         return;
-    // The first attempt 1 s after the loss, then at doubling intervals while attempts fail.
-    m_retryInterval = m_retrying ? qMin(m_retryInterval * 2, int(kMaxRetryInterval)) : int(kMinRetryInterval);
+    // Every second for the first kSteadyRetries attempts (a broker that restarts is back within a second of
+    // its return), then at doubling intervals while attempts fail.
+    m_retryCount = m_retrying ? m_retryCount + 1 : 0;
+    m_retryInterval = m_retryCount < kSteadyRetries ? int(kMinRetryInterval)
+                                                    : qMin(m_retryInterval * 2, int(kMaxRetryInterval));
     const quint64 generation = m_retryGeneration;
     QTimer::singleShot(m_retryInterval * 1000, this, [this, generation] {
         if (generation == m_retryGeneration)

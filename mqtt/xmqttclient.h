@@ -60,6 +60,8 @@ public:
     /** Automatic reconnection of a long connection: first and longest wait, seconds. */
     static constexpr int kMinRetryInterval = 1;
     static constexpr int kMaxRetryInterval = 30;
+    /** Attempts made at the first interval before the wait starts doubling. */
+    static constexpr int kSteadyRetries = 10;
     /** Messages Paho may hold that are not yet written to the broker. */
     static constexpr int kMaxQueuedMessages = 65535;
     /** Seconds Paho waits for the broker's answer to a connect. */
@@ -185,6 +187,7 @@ private:
     std::atomic<bool> m_retrying { false }; ///< the current attempt is an automatic one
     std::atomic<quint64> m_retryGeneration { 0 }; ///< bumped by every connect or disconnect
     int m_retryInterval = kMinRetryInterval; ///< seconds before the next automatic attempt
+    int m_retryCount = 0; ///< automatic attempts failed since the loss
 
     void* m_client = nullptr; ///< the Paho handle (MQTTAsync)
     bool m_clientV5 = false; ///< the handle speaks MQTT 5 (it takes the version 5 call-backs only)

@@ -8,8 +8,8 @@
  * View_EvtMqttError of qgui/events.h). The exports may be called from any thread.
  *
  * Reconnection: a long connection that is lost is re-established automatically,
- * first after 1 s, then at doubling intervals of at most 30 s, until it succeeds or
- * the logic layer disconnects. A short connection, or a connect that fails, is not
+ * every second for the first 10 attempts, then at doubling intervals of at most
+ * 30 s, until it succeeds or the logic layer disconnects. A short connection, or a connect that fails, is not
  * retried: the logic layer calls Mqtt_ReConnect. A long connection is also retried
  * when the network comes back online.
  */

@@ -46,73 +46,86 @@ void tst_FramePacer::pacing_follows_the_environment()
     qunsetenv("QGUI_FRAME_PACING");
 }
 
+namespace {
+
+/* A shown view with the scene \a qml (a root item with an int property "step"), and which change each
+ * frame shows: `changed` is the change made last, `swapped` the one the last swapped frame carries (taken
+ * at its synchronisation, while the GUI thread waits). */
+struct PacedScene {
+    XQuickView view;
+    QQuickItem* root = nullptr;
+    std::atomic<int> changed { 0 }, synced { 0 }, swapped { 0 };
+
+    bool show(const QByteArray& qml, QSize size)
+    {
+        QQmlComponent c(view.engine());
+        c.setData(qml, QUrl());
+        root = qobject_cast<QQuickItem*>(c.create());
+        if (!root) {
+            qWarning("%s", qPrintable(c.errorString()));
+            return false;
+        }
+        root->setParentItem(view.contentItem());
+        root->setParent(view.contentItem());
+        view.resize(size);
+        view.show();
+        if (!TestUtil::waitForFrame(&view))
+            return false;
+        QObject::connect(&view, &QQuickWindow::beforeSynchronizing, &view, [this] { synced = changed.load(); },
+            Qt::DirectConnection);
+        QObject::connect(&view, &QQuickWindow::frameSwapped, &view, [this] { swapped = synced.load(); },
+            Qt::DirectConnection);
+        return true;
+    }
+    void change()
+    {
+        root->setProperty("step", ++changed);
+    }
+};
+
+} // namespace
+
 void tst_FramePacer::the_last_change_is_rendered()
 {
-    XQuickView view;
-    QVERIFY(view.framePacer());
-    QQmlComponent c(view.engine());
+    PacedScene scene;
+    QVERIFY(scene.view.framePacer());
     // enough text that a frame takes a while to render, so requests arrive during renderings
-    c.setData("import QtQuick 2.15\nRectangle { width: 800; height: 600; property int step: 0\n"
-              " Grid { columns: 20; Repeater { model: 600; Text { width: 40; height: 20;"
-              " text: step + index } } } }",
-        QUrl());
-    auto* root = qobject_cast<QQuickItem*>(c.create());
-    QVERIFY2(root, qPrintable(c.errorString()));
-    root->setParentItem(view.contentItem());
-    root->setParent(view.contentItem());
-    view.resize(800, 600);
-    view.show();
-    QVERIFY(TestUtil::waitForFrame(&view));
-
-    // which change each frame shows: taken at the synchronisation, while the GUI thread waits
-    std::atomic<int> changed { 0 }, synced { 0 }, swapped { 0 };
-    connect(&view, &QQuickWindow::beforeSynchronizing, this, [&] { synced = changed.load(); },
-        Qt::DirectConnection);
-    connect(&view, &QQuickWindow::frameSwapped, this, [&] { swapped = synced.load(); }, Qt::DirectConnection);
+    QVERIFY(scene.show("import QtQuick 2.15\nRectangle { anchors.fill: parent; property int step: 0\n"
+                       " Grid { columns: 20; Repeater { model: 600; Text { width: 40; height: 20;"
+                       " text: step + index } } } }",
+        QSize(800, 600)));
 
     constexpr int kChanges = 300;
     QTimer timer;
     timer.setTimerType(Qt::PreciseTimer);
     connect(&timer, &QTimer::timeout, this, [&] {
-        root->setProperty("step", changed + 1);
-        if (++changed == kChanges)
+        scene.change();
+        if (scene.changed == kChanges)
             timer.stop();
     });
     timer.start(2);
-    QTRY_COMPARE_WITH_TIMEOUT(changed.load(), kChanges, 10000);
+    QTRY_COMPARE_WITH_TIMEOUT(scene.changed.load(), kChanges, 10000);
     // nothing asks for a frame any more: the held request alone brings the last change
-    QTRY_COMPARE_WITH_TIMEOUT(swapped.load(), kChanges, 2000);
+    QTRY_COMPARE_WITH_TIMEOUT(scene.swapped.load(), kChanges, 2000);
 
-    QVERIFY2(view.framePacer()->heldCount() > 0, "no request arrived during a rendering: the test proves nothing");
-    QVERIFY(view.framePacer()->releasedAtSwapCount() > 0); // a swap lets the held request go at once
+    FramePacer* pacer = scene.view.framePacer();
+    QVERIFY2(pacer->heldCount() > 0, "no request arrived during a rendering: the test proves nothing");
+    QVERIFY(pacer->releasedAtSwapCount() > 0); // a swap lets the held request go at once
 }
 
 void tst_FramePacer::a_grab_does_not_hold_frames_back()
 {
     // a grab draws a frame into an image and never swaps it: the pacer must not wait for that swap
-    XQuickView view;
-    QQmlComponent c(view.engine());
-    c.setData("import QtQuick 2.15\nRectangle { width: 200; height: 100; property int step: 0\n"
-              " Text { text: parent.step } }",
-        QUrl());
-    auto* root = qobject_cast<QQuickItem*>(c.create());
-    QVERIFY2(root, qPrintable(c.errorString()));
-    root->setParentItem(view.contentItem());
-    root->setParent(view.contentItem());
-    view.resize(200, 100);
-    view.show();
-    QVERIFY(TestUtil::waitForFrame(&view));
-    std::atomic<int> changed { 0 }, synced { 0 }, swapped { 0 };
-    connect(&view, &QQuickWindow::beforeSynchronizing, this, [&] { synced = changed.load(); },
-        Qt::DirectConnection);
-    connect(&view, &QQuickWindow::frameSwapped, this, [&] { swapped = synced.load(); }, Qt::DirectConnection);
+    PacedScene scene;
+    QVERIFY(scene.show(
+        "import QtQuick 2.15\nRectangle { anchors.fill: parent; property int step: 0; Text { text: parent.step } }",
+        QSize(200, 100)));
     for (int i = 1; i <= 5; ++i) {
-        QVERIFY(!view.grabWindow().isNull());
-        changed = i;
-        root->setProperty("step", i);
-        QTRY_COMPARE_WITH_TIMEOUT(swapped.load(), i, 2000);
+        QVERIFY(!scene.view.grabWindow().isNull());
+        scene.change();
+        QTRY_COMPARE_WITH_TIMEOUT(scene.swapped.load(), i, 2000);
     }
-    QCOMPARE(view.framePacer()->timedOutCount(), quint64(0)); // no request waited for a swap that never came
+    QCOMPARE(scene.view.framePacer()->timedOutCount(), quint64(0)); // no request waited for a swap that never came
 }
 
 QTEST_MAIN(tst_FramePacer)

@@ -359,7 +359,7 @@ void tst_Mqtt::lost_connection_reports_state_0_and_a_long_connection_comes_back(
     QCOMPARE(Mqtt_CheckState(h), 0);
 
     QVERIFY2(m_broker->start(), qPrintable(m_broker->lastError()));
-    // retried after 1 s, then at doubling intervals
+    // retried every second (then at doubling intervals)
     QTRY_VERIFY_WITH_TIMEOUT(hasEvent(h, kState, 2), 40000);
     QCOMPARE(Mqtt_CheckState(h), 2);
     QVERIFY(hasEvent(h, kError, MQTT_ERR_NONE));
