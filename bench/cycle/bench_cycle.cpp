@@ -43,6 +43,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <fcntl.h>
 #include <unistd.h>
 #include <vector>
 
@@ -389,12 +390,14 @@ void watchFrames()
 /** The GUI thread's time on a core and waiting for one (runnable), from the scheduler, in ns. */
 bool schedTimes(long long& running, long long& waiting)
 {
-    FILE* f = std::fopen("/proc/thread-self/schedstat", "r");
-    if (!f)
+    // opened once: the call runs every cycle, on the thread being measured
+    static const int fd = ::open("/proc/thread-self/schedstat", O_RDONLY | O_CLOEXEC);
+    char text[96];
+    const ssize_t n = fd < 0 ? -1 : ::pread(fd, text, sizeof(text) - 1, 0);
+    if (n <= 0)
         return false;
-    const bool ok = std::fscanf(f, "%lld %lld", &running, &waiting) == 2;
-    std::fclose(f);
-    return ok;
+    text[n] = '\0';
+    return std::sscanf(text, "%lld %lld", &running, &waiting) == 2;
 }
 
 void every10ms()
