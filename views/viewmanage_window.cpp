@@ -28,9 +28,14 @@ int ViewManage::View_CreateDesktop(const Size& size, unsigned int desktopNo)
 {
     m_windowManage->addDeskTop(size, desktopNo);
     if (QQmlEngine* engine = m_windowManage->getEngine()) {
-        engine->rootContext()->setContextProperty(
-            QStringLiteral("$GlobalConfig"), GlobalConfig::getInstance());
-        engine->rootContext()->setContextProperty(QStringLiteral("$GlobalInfo"), GlobalInfo::instance());
+        // set once: each setting of a context property to an object connects to that object again
+        QQmlContext* context = engine->rootContext();
+        auto setOnce = [context](const QString& name, QObject* object) {
+            if (context->contextProperty(name).value<QObject*>() != object)
+                context->setContextProperty(name, object);
+        };
+        setOnce(QStringLiteral("$GlobalConfig"), GlobalConfig::getInstance());
+        setOnce(QStringLiteral("$GlobalInfo"), GlobalInfo::instance());
     }
     // the keyboard is made (hidden) while the panel is idle, so that the operator's first touch on a
     // field opens it at once instead of compiling it then

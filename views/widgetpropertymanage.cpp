@@ -11,14 +11,18 @@
 
 namespace {
 
-/** Index of \a signature in the class of \a mo, looked up once per class and signature. */
+/** Index of \a signature in the class of \a mo, looked up once per class and signature.
+ *
+ * Keyed by the class's name, not by \a mo: an item declared in QML has a meta-object of its own, made
+ * with the item and freed with it, so its address names neither a class (a later item of another type
+ * may be given the same address) nor anything that lasts (a cache by address grows with every item). */
 int methodIndex(const QMetaObject* mo, const char* signature)
 {
-    static QHash<QPair<const QMetaObject*, const char*>, int> s_index; // GUI thread only
-    const auto key = qMakePair(mo, signature);
+    static QHash<QPair<QByteArray, const char*>, int> s_index; // GUI thread only
+    const auto key = qMakePair(QByteArray::fromRawData(mo->className(), int(qstrlen(mo->className()))), signature);
     auto it = s_index.constFind(key);
     if (it == s_index.constEnd())
-        it = s_index.insert(key, mo->indexOfMethod(signature));
+        it = s_index.insert(qMakePair(QByteArray(mo->className()), signature), mo->indexOfMethod(signature));
     return it.value();
 }
 

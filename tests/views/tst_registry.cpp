@@ -11,16 +11,30 @@
 #include "views/lifecyclemanager.h"
 #include "views/qmlwindowmanage.h"
 #include "views/viewmanage.h"
+#include "views/widgetpropertymanage.h"
 #include "xcomponents/qquick/xbasecontrol.h"
 
 #include <QPointer>
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QThread>
 
 #include <QQuickItem>
 #include <atomic>
 #include <functional>
+#include <memory>
 
 Q_DECLARE_METATYPE(std::function<int()>)
+
+/** An item type of a QML module that takes its ids through invokable setters (not an XBaseControl). */
+class IdHolder : public QQuickItem {
+    Q_OBJECT
+public:
+    Q_INVOKABLE void setId(uint id) { m_id = id; }
+    Q_INVOKABLE void setWindowId(uint id) { m_windowId = id; }
+    uint m_id = 0;
+    uint m_windowId = 0;
+};
 
 class tst_Registry : public QObject {
     Q_OBJECT
@@ -42,6 +56,7 @@ private Q_SLOTS:
     void disable_flags();
     void opacity_rectangle_and_move();
     void deleting_a_widget_inside_its_own_press_handler(); // then changing it, and re-entering
+    void ids_reach_items_declared_in_qml_of_any_type();
 
 private:
     unsigned placeholder(unsigned id, unsigned windowId, Rect r = Rect { 10, 20, 30, 40 });
@@ -423,6 +438,33 @@ void tst_Registry::deleting_a_widget_inside_its_own_press_handler()
     QCOMPARE(m_rec.eventsWithCode(EVT_WIDGET_PRESS).size(), 1);
     QCOMPARE(m_rec.eventsWithCode(EVT_WIDGET_PRESS).first().id, 801u);
     m_rec.install();
+}
+
+void tst_Registry::ids_reach_items_declared_in_qml_of_any_type()
+{
+    // Items declared in QML each have a meta-object of their own, freed with the item: the next item's
+    // may be given the same address. Items of a type without the setters (ids kept as properties) and of
+    // one with them, made and freed in turn, must each get their ids their own way.
+    qmlRegisterType<IdHolder>("QGuiTest.Registry", 1, 0, "IdHolder");
+    QQmlEngine engine;
+    QQmlComponent plain(&engine);
+    plain.setData("import QtQuick 2.15\nItem { property int a; property int b }", QUrl());
+    QQmlComponent holder(&engine);
+    holder.setData("import QtQuick 2.15\nimport QGuiTest.Registry 1.0\nIdHolder { property int a; property int b }", QUrl());
+    QVERIFY2(plain.isReady() && holder.isReady(), qPrintable(plain.errorString() + holder.errorString()));
+    for (unsigned i = 1; i <= 40; ++i) {
+        std::unique_ptr<QObject> made((i % 2 ? plain : holder).create());
+        auto* item = qobject_cast<QQuickItem*>(made.get());
+        QVERIFY(item);
+        WidgetPropertyManage::setIds(item, 1000 + i, 2000 + i);
+        if (auto* h = qobject_cast<IdHolder*>(item)) {
+            QCOMPARE(h->m_id, 1000 + i);
+            QCOMPARE(h->m_windowId, 2000 + i);
+        } else {
+            QCOMPARE(GId::id(item), 1000 + i);
+            QCOMPARE(GId::wid(item), 2000 + i);
+        }
+    }
 }
 
 QGUI_GUIAPP_TEST_MAIN(tst_Registry)
