@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QImage>
 #include <QQuickWindow>
 #include <QScreen>
 
@@ -18,24 +19,38 @@ FramePacer::FramePacer(QQuickWindow* window)
     // these run on the render thread (on the GUI thread under the basic render loop, where a
     // frame never overlaps an update request)
     connect(window, &QQuickWindow::beforeSynchronizing, this, [this] {
+        // the GUI thread is blocked in this synchronisation: outside the window's own events it
+        // is grabbing the window into an image, a frame that is never swapped
+        m_grabbing = m_inWindowEvent.load() == 0;
         m_syncStartNs = m_clock.nsecsElapsed();
         m_renderedSinceSync = false;
     }, Qt::DirectConnection);
     connect(window, &QQuickWindow::beforeRendering, this, [this] {
+        // busy first: the GUI thread may look in between
+        m_rendering = !m_grabbing;
         m_renderedSinceSync = true;
-        m_renderedAtNs = -1;
-        m_rendering = true;
     }, Qt::DirectConnection);
-    connect(window, &QQuickWindow::afterRendering, this, [this] { m_renderedAtNs = m_clock.nsecsElapsed(); },
-        Qt::DirectConnection);
     connect(window, &QQuickWindow::frameSwapped, this, [this] {
         m_rendering = false;
-        m_renderedAtNs = -1;
         QMetaObject::invokeMethod(this, [this] {
             if (tryRelease())
                 ++m_releasedAtSwap;
         }, Qt::QueuedConnection);
     }, Qt::DirectConnection);
+}
+
+QImage FramePacer::grab(QQuickWindow* window)
+{
+    if (!window)
+        return QImage();
+    FramePacer* pacer = window->findChild<FramePacer*>(QString(), Qt::FindDirectChildrenOnly);
+    if (!pacer)
+        return window->grabWindow();
+    // the window is not handling one of its events for as long as the grab lasts
+    const int inEvent = pacer->m_inWindowEvent.exchange(0);
+    QImage image = window->grabWindow();
+    pacer->m_inWindowEvent += inEvent;
+    return image;
 }
 
 bool FramePacer::enabledByEnvironment()
@@ -55,16 +70,9 @@ qint64 FramePacer::refreshIntervalNs() const
 
 qint64 FramePacer::busyForNs() const
 {
-    if (m_rendering) {
-        const qint64 renderedAt = m_renderedAtNs;
-        if (renderedAt < 0)
-            return -1; // until the swap
-        // drawn and not swapped: a swap under way, or a grab into an image, which has none
-        const qint64 left = renderedAt + qint64(kSwapWaitMs) * 1000000 - m_clock.nsecsElapsed();
-        if (left > 0)
-            return left;
-    }
-    if (m_renderedSinceSync)
+    if (m_rendering)
+        return -1; // until the swap
+    if (m_renderedSinceSync || m_grabbing)
         return 0;
     // a synchronisation that found nothing to render: the render thread idles out the rest
     // of a refresh interval, counted from the start of that synchronisation
@@ -73,17 +81,23 @@ qint64 FramePacer::busyForNs() const
 
 bool FramePacer::holdUpdate(QEvent* event)
 {
-    if (event->type() != QEvent::UpdateRequest || m_releasing)
+    // the request being let go passes; any other, also one sent while that one is handled, is judged
+    if (event->type() != QEvent::UpdateRequest || event == m_releasing)
         return false;
-    if (!m_held && busyForNs() == 0)
+    if (busyForNs() == 0) {
+        // free: this request goes now and carries a held one with it (letting that one go as well
+        // would start a second frame at once, and the GUI thread would wait for the whole first)
+        m_held = false;
+        m_retry.stop();
         return false;
+    }
     if (!m_held) {
         m_held = true;
         m_heldSince.start();
         ++m_heldCount;
     }
-    tryRelease();
-    return m_held;
+    tryRelease(); // arms the timer, or lets the request go once held too long
+    return true; // a request let go is sent anew
 }
 
 bool FramePacer::tryRelease()
@@ -102,9 +116,10 @@ bool FramePacer::tryRelease()
         ++m_timedOut;
     m_held = false;
     m_retry.stop();
-    m_releasing = true;
     QEvent update(QEvent::UpdateRequest);
+    QEvent* const outer = m_releasing; // a release from inside another's handling
+    m_releasing = &update;
     QCoreApplication::sendEvent(m_window, &update);
-    m_releasing = false;
+    m_releasing = outer;
     return true;
 }

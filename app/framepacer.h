@@ -8,6 +8,7 @@
 #include <atomic>
 
 class QEvent;
+class QImage;
 class QQuickWindow;
 
 /**
@@ -25,8 +26,10 @@ class QQuickWindow;
  * busy and lets it go the moment it is free (at the swap, or at the end of the
  * idle interval). Nothing is lost: requests made while one is held are the
  * same request, and the held one carries every change made meanwhile. A frame
- * drawn into an image (a grab) has no swap: one drawn and not swapped within
- * kSwapWaitMs is taken for one. A rendering that never reports its end (a lost
+ * drawn into an image (a grab) has no swap, and the GUI thread waits for it
+ * anyway: a synchronisation that starts while the window is not handling one
+ * of its own events (an update request, an exposure) is a grab's, and its
+ * frame holds nothing back. A rendering that never reports its end (a lost
  * surface) releases the request after kReleaseAfterMs.
  *
  * QGUI_FRAME_PACING=0 turns it off (every request then goes straight to the
@@ -37,11 +40,16 @@ class FramePacer : public QObject {
 
 public:
     static constexpr int kReleaseAfterMs = 250;
-    /** A frame drawn but not swapped after this long was a grab into an image (it has no swap). */
-    static constexpr int kSwapWaitMs = 50;
 
-    /** Watches \a window's render thread; the window calls holdUpdate() from its event(). */
+    /** Watches \a window's render thread; the window calls holdUpdate() from its event(), and
+     *  windowEventStarted() and windowEventEnded() around its handling of every event. */
     explicit FramePacer(QQuickWindow* window);
+    void windowEventStarted() { ++m_inWindowEvent; }
+    void windowEventEnded() { --m_inWindowEvent; }
+
+    /** Grabs \a window into an image, also from inside one of its events (an operator's press
+     *  that takes a screenshot), telling the window's pacer that this frame will not be swapped. */
+    static QImage grab(QQuickWindow* window);
 
     /** True when \a event is an update request that is held until the render thread is free;
      *  the window then returns without handling it. */
@@ -68,10 +76,14 @@ private:
     QElapsedTimer m_heldSince;
     std::atomic<qint64> m_syncStartNs { 0 };
     std::atomic<bool> m_renderedSinceSync { true };
-    std::atomic<qint64> m_renderedAtNs { -1 };
     std::atomic<bool> m_rendering { false };
+    /** Events of the window being handled (GUI thread; read by the render thread while the GUI
+     *  thread waits for a synchronisation). */
+    std::atomic<int> m_inWindowEvent { 0 };
+    /** The last synchronisation was a grab's (render thread). */
+    std::atomic<bool> m_grabbing { false };
     bool m_held = false;
-    bool m_releasing = false;
+    QEvent* m_releasing = nullptr; ///< the request being let go
     quint64 m_heldCount = 0;
     quint64 m_releasedAtSwap = 0;
     quint64 m_timedOut = 0;

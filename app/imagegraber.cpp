@@ -1,5 +1,6 @@
 #include "app/imagegraber.h"
 
+#include "app/framepacer.h"
 #include "app/guishell.h"
 #include "platform/logiclayercaller.h"
 #include "platform/nlogger.h"
@@ -55,7 +56,7 @@ bool ImageGraber::grabImageOf(
     if (shell && item == shell->getGuiRect()) {
         // the whole panel as the operator sees it: what lies over it (the on-screen keyboard and its
         // entry line) is in the picture too
-        QImage img = item->window()->grabWindow();
+        QImage img = FramePacer::grab(item->window());
         const QRect onScreen = item->mapRectToScene(item->boundingRect()).toAlignedRect();
         img = img.copy(onScreen.intersected(img.rect()));
         if (rect.width() > 0 && rect.height() > 0)

@@ -60,9 +60,14 @@ void XQuickView::onChangeZoom(int index, const QString& percent)
 bool XQuickView::event(QEvent* event)
 {
     Q_EMIT beforeEvent(event);
-    if (m_pacer && m_pacer->holdUpdate(event))
+    if (!m_pacer)
+        return QQuickView::event(event);
+    if (m_pacer->holdUpdate(event))
         return true;
-    return QQuickView::event(event);
+    m_pacer->windowEventStarted();
+    const bool handled = QQuickView::event(event);
+    m_pacer->windowEventEnded();
+    return handled;
 }
 
 void XQuickView::resizeEvent(QResizeEvent* event)

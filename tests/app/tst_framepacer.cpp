@@ -3,6 +3,7 @@
 // made reaches the screen without anything else asking for a frame.
 #include <QQmlComponent>
 #include <QQuickItem>
+#include <QThread>
 #include <QTimer>
 #include <QtTest>
 
@@ -19,7 +20,9 @@ private Q_SLOTS:
     void pacing_follows_the_environment_data();
     void pacing_follows_the_environment();
     void the_last_change_is_rendered();
+    void a_grab_does_not_hold_frames_back_data();
     void a_grab_does_not_hold_frames_back();
+    void a_slow_frame_still_holds_requests();
 };
 
 void tst_FramePacer::pacing_follows_the_environment_data()
@@ -83,6 +86,26 @@ struct PacedScene {
     }
 };
 
+/* Grabs the window when a press reaches the item it filters. */
+class PressGrab : public QObject {
+public:
+    PressGrab(QQuickWindow* window, QImage* into)
+        : m_window(window)
+        , m_into(into)
+    {
+    }
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::MouseButtonPress)
+            *m_into = FramePacer::grab(m_window);
+        return false;
+    }
+
+private:
+    QQuickWindow* m_window;
+    QImage* m_into;
+};
+
 } // namespace
 
 void tst_FramePacer::the_last_change_is_rendered()
@@ -113,19 +136,66 @@ void tst_FramePacer::the_last_change_is_rendered()
     QVERIFY(pacer->releasedAtSwapCount() > 0); // a swap lets the held request go at once
 }
 
+void tst_FramePacer::a_grab_does_not_hold_frames_back_data()
+{
+    QTest::addColumn<bool>("fromAPress");
+    QTest::newRow("grab between events") << false;
+    QTest::newRow("grab from a press on the window") << true; // a screenshot taken by an operator's press
+}
+
 void tst_FramePacer::a_grab_does_not_hold_frames_back()
 {
     // a grab draws a frame into an image and never swaps it: the pacer must not wait for that swap
+    QFETCH(bool, fromAPress);
     PacedScene scene;
     QVERIFY(scene.show(
-        "import QtQuick 2.15\nRectangle { anchors.fill: parent; property int step: 0; Text { text: parent.step } }",
+        "import QtQuick 2.15\nRectangle { anchors.fill: parent; property int step: 0; Text { text: parent.step }\n"
+        " MouseArea { objectName: 'area'; anchors.fill: parent } }",
         QSize(200, 100)));
+    QImage grabbed;
+    // the press reaches the area while the window is handling it
+    PressGrab press(&scene.view, &grabbed);
+    scene.root->findChild<QQuickItem*>("area")->installEventFilter(&press);
     for (int i = 1; i <= 5; ++i) {
-        QVERIFY(!scene.view.grabWindow().isNull());
+        grabbed = QImage();
+        if (fromAPress)
+            QTest::mouseClick(&scene.view, Qt::LeftButton, Qt::NoModifier, QPoint(50, 50));
+        else
+            grabbed = scene.view.grabWindow();
+        QVERIFY(!grabbed.isNull());
         scene.change();
         QTRY_COMPARE_WITH_TIMEOUT(scene.swapped.load(), i, 2000);
     }
     QCOMPARE(scene.view.framePacer()->timedOutCount(), quint64(0)); // no request waited for a swap that never came
+}
+
+void tst_FramePacer::a_slow_frame_still_holds_requests()
+{
+    // frames whose swap takes longer than any guess at its length: the GUI thread still never waits for one
+    PacedScene scene;
+    QVERIFY(scene.show(
+        "import QtQuick 2.15\nRectangle { anchors.fill: parent; property int step: 0; Text { text: parent.step } }",
+        QSize(200, 100)));
+    constexpr int kSlowMs = 150;
+    std::atomic<qint64> requestedAt { -1 }, longestWait { 0 };
+    QElapsedTimer clock;
+    clock.start();
+    connect(&scene.view, &QQuickWindow::afterAnimating, this, [&] { requestedAt = clock.elapsed(); }); // GUI thread
+    connect(&scene.view, &QQuickWindow::beforeSynchronizing, this, [&] {
+        if (requestedAt >= 0)
+            longestWait = qMax(longestWait.load(), clock.elapsed() - requestedAt);
+    }, Qt::DirectConnection);
+    // a software renderer rasterises the frame when it is swapped: the time goes after the drawing
+    connect(&scene.view, &QQuickWindow::afterRendering, this, [] { QThread::msleep(kSlowMs); },
+        Qt::DirectConnection);
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [&] { scene.change(); });
+    timer.start(5);
+    QTest::qWait(6 * kSlowMs);
+    timer.stop();
+    QTRY_COMPARE_WITH_TIMEOUT(scene.swapped.load(), scene.changed.load(), 2000);
+    QVERIFY(scene.view.framePacer()->heldCount() > 0);
+    QVERIFY2(longestWait < kSlowMs / 2, qPrintable(QStringLiteral("waited %1 ms").arg(longestWait.load())));
 }
 
 QTEST_MAIN(tst_FramePacer)
