@@ -25,11 +25,15 @@ class QQuickWindow;
  * The pacer holds an update request that arrives while the render thread is
  * busy and lets it go the moment it is free (at the swap, or at the end of the
  * idle interval). Nothing is lost: requests made while one is held are the
- * same request, and the held one carries every change made meanwhile. A frame
+ * same request, and the held one carries every change made meanwhile; a
+ * request that finds the render thread free goes at once and takes the place
+ * of a held one (never both: the second would wait for the first's whole
+ * frame). A frame
  * drawn into an image (a grab) has no swap, and the GUI thread waits for it
  * anyway: a synchronisation that starts while the window is not handling one
  * of its own events (an update request, an exposure) is a grab's, and its
- * frame holds nothing back. A rendering that never reports its end (a lost
+ * frame holds nothing back. A grab made from inside one of the window's events
+ * goes through grab(). A rendering that never reports its end (a lost
  * surface) releases the request after kReleaseAfterMs.
  *
  * QGUI_FRAME_PACING=0 turns it off (every request then goes straight to the
