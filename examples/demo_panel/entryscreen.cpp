@@ -173,7 +173,7 @@ void build(unsigned windowId)
     label(kTextLabel, Rect { 40, 180, 300, 56 }, "Product name");
     field(kText, Rect { 360, 180, 300, 56 }, "");
     label(kClockLabel, Rect { 40, 250, 300, 56 }, "Next maintenance");
-    static const Font clockFont = font(26, 0xFF102030u);
+    static const Font clockFont = font(22, 0xFF102030u); // the whole date and time fits inside the frame
     View_InputClock clock { 0, Rect { 360, 250, 300, 56 }, kClock, "field.svg", "2026-12-01 08:00:00", &clockFont,
         0 };
     View_CreateInputClock(&clock, windowId);

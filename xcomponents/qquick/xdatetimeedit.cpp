@@ -10,6 +10,10 @@
 
 #include <qgui/events.h>
 
+namespace {
+constexpr qreal kTextPadding = 12;
+} // namespace
+
 XDateTimeEdit::XDateTimeEdit(QQuickItem* parent)
     : XBaseControl(parent)
     , m_text(new QQuickText(this))
@@ -20,6 +24,9 @@ XDateTimeEdit::XDateTimeEdit(QQuickItem* parent)
     m_text->setVAlign(QQuickText::AlignVCenter);
     m_text->setHAlign(QQuickText::AlignHCenter);
     m_text->setElideMode(QQuickText::ElideRight);
+    // the text keeps off the field's frame, as in the entry fields
+    m_text->setLeftPadding(kTextPadding);
+    m_text->setRightPadding(kTextPadding);
     m_text->setZ(1);
     m_text->setColor(m_fontColor);
     connect(this, &QQuickControl::fontChanged, this, [this]() {
