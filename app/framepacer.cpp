@@ -26,8 +26,10 @@ FramePacer::FramePacer(QQuickWindow* window)
         m_renderedSinceSync = false;
     }, Qt::DirectConnection);
     connect(window, &QQuickWindow::beforeRendering, this, [this] {
-        // busy first: the GUI thread may look in between
-        m_rendering = !m_grabbing;
+        // busy first: the GUI thread may look in between. Only the rendering that follows a grab's
+        // synchronisation is the grab's; one the render thread starts on its own later is swapped.
+        m_rendering = !(m_grabbing && !m_renderedSinceSync);
+        m_grabbing = m_grabbing && !m_renderedSinceSync;
         m_renderedSinceSync = true;
     }, Qt::DirectConnection);
     connect(window, &QQuickWindow::frameSwapped, this, [this] {
