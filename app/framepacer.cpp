@@ -1,5 +1,7 @@
 #include "app/framepacer.h"
 
+#include "app/cyclebeat.h"
+
 #include <QCoreApplication>
 #include <QEvent>
 #include <QImage>
@@ -39,6 +41,61 @@ FramePacer::FramePacer(QQuickWindow* window)
                 ++m_releasedAtSwap;
         }, Qt::QueuedConnection);
     }, Qt::DirectConnection);
+}
+
+void FramePacer::setBeat(CycleBeat* beat)
+{
+    if (m_beat)
+        disconnect(m_beat, nullptr, this, nullptr);
+    m_beat = beat;
+    if (beat)
+        connect(beat, &CycleBeat::cycleEnded, this, &FramePacer::onCycleEnded);
+}
+
+void FramePacer::windowEventStarted(const QEvent* event)
+{
+    ++m_inWindowEvent;
+    if (event->type() == QEvent::UpdateRequest && m_updateDepth++ == 0)
+        m_updateStartedNs = m_clock.nsecsElapsed();
+}
+
+void FramePacer::windowEventEnded(const QEvent* event)
+{
+    --m_inWindowEvent;
+    if (event->type() != QEvent::UpdateRequest || --m_updateDepth != 0 || m_updateStartedNs < 0)
+        return;
+    m_startCostNs[m_nextCost] = m_clock.nsecsElapsed() - m_updateStartedNs;
+    m_nextCost = (m_nextCost + 1) % m_startCostNs.size();
+    m_updateStartedNs = -1;
+}
+
+qint64 FramePacer::frameStartCostNs() const
+{
+    qint64 longest = 0;
+    for (qint64 ns : m_startCostNs)
+        longest = qMax(longest, ns);
+    return longest;
+}
+
+bool FramePacer::fitsBeforeCycle() const
+{
+    if (!m_beat || m_afterCycle)
+        return true; // right after a cycle is the best time there is
+    const qint64 left = m_beat->nsUntilNext();
+    if (left < 0)
+        return true; // no cycle runs
+    static constexpr qint64 kMarginNs = 1'000'000; // the event loop's own work before the cycle's timer
+    return left >= frameStartCostNs() + kMarginNs;
+}
+
+void FramePacer::onCycleEnded()
+{
+    if (!m_held)
+        return;
+    m_afterCycle = true;
+    if (tryRelease())
+        ++m_releasedAfterCycle;
+    m_afterCycle = false;
 }
 
 QImage FramePacer::grab(QQuickWindow* window)
@@ -86,10 +143,12 @@ bool FramePacer::holdUpdate(QEvent* event)
     // the request being let go passes; any other, also one sent while that one is handled, is judged
     if (event->type() != QEvent::UpdateRequest || event == m_releasing)
         return false;
-    if (busyForNs() == 0) {
+    const bool free = busyForNs() == 0;
+    if (free && fitsBeforeCycle()) {
         // free: this request goes now and carries a held one with it (letting that one go as well
         // would start a second frame at once, and the GUI thread would wait for the whole first)
         m_held = false;
+        m_waitingForCycle = false;
         m_retry.stop();
         return false;
     }
@@ -114,6 +173,16 @@ bool FramePacer::tryRelease()
         m_retry.start(int(qMin<qint64>(waitMs, kReleaseAfterMs - heldMs)));
         return false;
     }
+    if (busy == 0 && heldMs < kReleaseAfterMs && !fitsBeforeCycle()) {
+        // the end of the coming cycle releases it; the timer is the safety net
+        if (!m_waitingForCycle) {
+            m_waitingForCycle = true;
+            ++m_heldForCycle;
+        }
+        m_retry.start(int(kReleaseAfterMs - heldMs));
+        return false;
+    }
+    m_waitingForCycle = false;
     if (busy < 0)
         ++m_timedOut;
     m_held = false;

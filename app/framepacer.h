@@ -3,10 +3,13 @@
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
 
+#include <array>
 #include <atomic>
 
+class CycleBeat;
 class QEvent;
 class QImage;
 class QQuickWindow;
@@ -36,6 +39,12 @@ class QQuickWindow;
  * goes through grab(). A rendering that never reports its end (a lost
  * surface) releases the request after kReleaseAfterMs.
  *
+ * With the logic layer's cycle (setBeat()), a frame also starts only when its
+ * start (polish and synchronisation, as long as the longest of the last 16)
+ * ends before the next cycle is due; else it starts right after that cycle's
+ * call-backs. The cycle then never waits behind a frame, and a frame waits at
+ * most one cycle.
+ *
  * QGUI_FRAME_PACING=0 turns it off (every request then goes straight to the
  * render loop).
  */
@@ -48,8 +57,14 @@ public:
     /** Watches \a window's render thread; the window calls holdUpdate() from its event(), and
      *  windowEventStarted() and windowEventEnded() around its handling of every event. */
     explicit FramePacer(QQuickWindow* window);
-    void windowEventStarted() { ++m_inWindowEvent; }
-    void windowEventEnded() { --m_inWindowEvent; }
+    void windowEventStarted(const QEvent* event);
+    void windowEventEnded(const QEvent* event);
+
+    /** Keeps frame starts out of the way of \a beat's cycles (null: frames start whenever the render
+     *  thread is free). */
+    void setBeat(CycleBeat* beat);
+    /** How long the GUI thread is expected to be held by a frame's start, in nanoseconds. */
+    qint64 frameStartCostNs() const;
 
     /** Grabs \a window into an image, also from inside one of its events (an operator's press
      *  that takes a screenshot), telling the window's pacer that this frame will not be swapped. */
@@ -64,6 +79,10 @@ public:
     quint64 heldCount() const { return m_heldCount; }
     quint64 releasedAtSwapCount() const { return m_releasedAtSwap; }
     quint64 timedOutCount() const { return m_timedOut; }
+    /** The update requests that found the render thread free but were held because their frame
+     *  would still be starting when a cycle is due, and those let go right after a cycle. */
+    quint64 heldForCycleCount() const { return m_heldForCycle; }
+    quint64 releasedAfterCycleCount() const { return m_releasedAfterCycle; }
 
     static bool enabledByEnvironment();
 
@@ -71,8 +90,12 @@ private:
     /** How long the render thread stays busy: -1 until a swap, else nanoseconds (0: free). */
     qint64 busyForNs() const;
     qint64 refreshIntervalNs() const;
-    /** Lets a held request go once the render thread is free; true when it went. */
+    /** False when a frame started now would still hold the GUI thread when the next cycle is due. */
+    bool fitsBeforeCycle() const;
+    /** Lets a held request go once the render thread is free (and the frame's start fits before the
+     *  next cycle); true when it went. */
     bool tryRelease();
+    void onCycleEnded();
 
     QQuickWindow* m_window;
     QTimer m_retry;
@@ -87,7 +110,17 @@ private:
     /** The last synchronisation was a grab's (render thread). */
     std::atomic<bool> m_grabbing { false };
     bool m_held = false;
+    bool m_afterCycle = false;  ///< a cycle's call-backs have just ended
+    bool m_waitingForCycle = false; ///< the held request waits for a cycle to end
     QEvent* m_releasing = nullptr; ///< the request being let go
+    QPointer<CycleBeat> m_beat;
+    /** The GUI thread's time in the last update requests handled (polish and synchronisation). */
+    std::array<qint64, 16> m_startCostNs {};
+    size_t m_nextCost = 0;
+    qint64 m_updateStartedNs = -1;
+    int m_updateDepth = 0;
+    quint64 m_heldForCycle = 0;
+    quint64 m_releasedAfterCycle = 0;
     quint64 m_heldCount = 0;
     quint64 m_releasedAtSwap = 0;
     quint64 m_timedOut = 0;

@@ -1,5 +1,7 @@
 #include "app/guiapplication.h"
 
+#include "app/cyclebeat.h"
+#include "app/cyclepriority.h"
 #include "app/xquickview.h"
 #include "config/fontmange.h"
 #include "config/globalconfig.h"
@@ -35,6 +37,7 @@ void onTermSignal(int)
 
 GuiApplication::GuiApplication(int& argc, char** argv)
     : QApplication(argc, argv)
+    , m_beat(new CycleBeat(10'000'000, this))
 {
     // The text glyph texture grows from a copy kept in memory instead of a read-back through the
     // graphics driver: without a graphics processor the read-back waits for the whole frame being
@@ -81,28 +84,47 @@ void GuiApplication::init()
 {
     if (m_callbacks.start)
         m_callbacks.start();
+    static const int priority = CyclePriority::priorityFromEnvironment();
+    if (CyclePriority::raiseThisThread(priority))
+        NLog::NLogger::instance()->logger()->info("the cycle runs at real-time priority {}", priority);
+    else if (priority > 0)
+        NLog::NLogger::instance()->logger()->info("the cycle runs at ordinary priority (no real-time class allowed)");
     m_timer10 = startTimer(10, Qt::CoarseTimer);
-    m_timer100 = startTimer(100, Qt::PreciseTimer);
+    m_next100Ns = m_beat->clockNs() + 100'000'000; // slot 5 first at the tenth tick
     connect(this, &QGuiApplication::lastWindowClosed, this, [this]() {
         if (m_timer10)
             killTimer(m_timer10);
-        if (m_timer100)
-            killTimer(m_timer100);
-        m_timer10 = m_timer100 = 0;
+        m_timer10 = 0;
+        m_beat->stop();
     });
 }
 
 void GuiApplication::timerEvent(QTimerEvent* event)
 {
-    if (event->timerId() == m_timer10 && m_timer10) {
-        if (m_callbacks.cycle10ms)
-            m_callbacks.cycle10ms();
-    } else if (event->timerId() == m_timer100 && m_timer100) {
+    if (event->timerId() == m_timer10 && m_timer10)
+        runCycle();
+    else
+        QApplication::timerEvent(event);
+}
+
+void GuiApplication::runCycle()
+{
+    static constexpr qint64 k100Ns = 100'000'000;
+    static constexpr qint64 kHalfTickNs = 5'000'000;
+    m_beat->started();
+    const qint64 now = m_beat->clockNs();
+    if (m_callbacks.cycle10ms)
+        m_callbacks.cycle10ms();
+    // slot 5 at the tick nearest its 100 ms (a tick is at most half a tick early); after a stall
+    // of several hundred ms the missed ones are not made up
+    if (now >= m_next100Ns - kHalfTickNs) {
+        m_next100Ns += k100Ns;
+        if (m_next100Ns < now)
+            m_next100Ns = now + k100Ns;
         if (m_callbacks.cycle100ms)
             m_callbacks.cycle100ms(0);
-    } else {
-        QApplication::timerEvent(event);
     }
+    m_beat->ended();
 }
 
 int GuiApplication::deviceInit(unsigned deviceNo, const QString& a, const QString& b)

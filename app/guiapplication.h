@@ -7,14 +7,16 @@
 
 #include <qgui/types.h>
 
+class CycleBeat;
 class XQuickView;
 class QSocketNotifier;
 
 /**
  * The application object of the panel. It drives the logic layer's cyclic work
- * from two timers on the GUI thread (slot 4 every 10 ms, slot 5 every 100 ms),
- * reads the command line, prepares the project folders and asks the logic layer
- * to initialise the device.
+ * from one 10 ms timer on the GUI thread: slot 4 at every tick, and slot 5 right
+ * after slot 4 at the tick that reaches the next 100 ms (never in between, where
+ * it would delay the next tick). It reads the command line, prepares the project
+ * folders and asks the logic layer to initialise the device.
  *
  * SIGTERM and SIGINT end the event loop cleanly (aboutToQuit runs), so a
  * service manager or the logic layer itself can stop the panel.
@@ -40,8 +42,11 @@ public:
     /** The panel's view; it also becomes the zoom that GlobalConfig::scale() reads. */
     void setView(XQuickView* view);
     XQuickView* view() const { return m_view; }
+    /** The beat of the 10 ms cycle; frames are started right after a cycle when they would not
+     *  end before the next one. */
+    CycleBeat* beat() const { return m_beat; }
 
-    /** Calls slot 2 and starts the timers. */
+    /** Calls slot 2 and starts the cycle. */
     void init();
     /** Reads the command line, prepares the folders, loads the project's fonts and calls slot 1.
      *  Returns slot 1's result (0 when the slot is null); a failure runs onaboutToQuit(). */
@@ -79,8 +84,11 @@ protected:
 private:
     void installTermination();
 
+    void runCycle();
+
     int m_timer10 = 0;
-    int m_timer100 = 0;
+    CycleBeat* m_beat = nullptr;
+    qint64 m_next100Ns = 0; ///< when slot 5 is next due, on the beat's clock
     _Main_CallBacks m_callbacks {};
     int m_rotation = 0;
     XQuickView* m_view = nullptr; // not owned

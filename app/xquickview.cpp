@@ -1,9 +1,12 @@
 #include "app/xquickview.h"
 
 #include "app/framepacer.h"
+#include "app/guiapplication.h"
 #include "app/guishell.h"
+#include "app/rasterthreads.h"
 #include "config/globalconfig.h"
 #include "platform/logiclayercaller.h"
+#include "platform/nlogger.h"
 
 #include <QKeyEvent>
 #include <QQuickItem>
@@ -15,8 +18,17 @@ XQuickView::XQuickView(QWindow* parent)
     : QQuickView(parent)
 {
     // not in the initialiser list: making the pacer a child sends this view an event
-    if (FramePacer::enabledByEnvironment())
+    if (FramePacer::enabledByEnvironment()) {
         m_pacer = new FramePacer(this);
+        if (GuiApplication* app = GuiApplication::instance())
+            m_pacer->setBeat(app->beat());
+    }
+    // the software renderer's threads exist once the scene graph has its context (render thread)
+    connect(this, &QQuickWindow::sceneGraphInitialized, this, [] {
+        static const int nice = RasterThreads::niceFromEnvironment();
+        if (const int n = RasterThreads::lowerPriority(nice))
+            NLog::NLogger::instance()->logger()->info("{} rasterising threads run at niceness {}", n, nice);
+    }, Qt::DirectConnection);
 }
 
 XQuickView::~XQuickView()
@@ -64,9 +76,9 @@ bool XQuickView::event(QEvent* event)
         return QQuickView::event(event);
     if (m_pacer->holdUpdate(event))
         return true;
-    m_pacer->windowEventStarted();
+    m_pacer->windowEventStarted(event);
     const bool handled = QQuickView::event(event);
-    m_pacer->windowEventEnded();
+    m_pacer->windowEventEnded(event);
     return handled;
 }
 

@@ -140,7 +140,7 @@ typedef int (*ViewStartCallBack)();
 typedef int (*ViewReservedCallBack)();
 /** Cyclic work every 10 ms. */
 typedef void (*ViewCycle10CallBack)();
-/** Cyclic work every 100 ms, called with 0. */
+/** Cyclic work every 100 ms, called with 0, right after the 10 ms work of the same tick. */
 typedef void (*ViewCycle100CallBack)(int);
 /** Curve axis label: (value, buffer, buffer size, format word) fills buffer with NUL-terminated UTF-8. */
 typedef int (*ViewLabelFormatCallBack)(double value, char* buffer, unsigned size, unsigned format);

@@ -1,5 +1,6 @@
 // A small logic layer run as a child process by tst_mainloop: each mode drives
 // View_MainThreadLoop one way and prints what it observed as "key=value" lines.
+#include <QAbstractEventDispatcher>
 #include <QSurfaceFormat>
 
 #include <atomic>
@@ -7,6 +8,7 @@
 #include <cstdio>
 #include <cstring>
 #include <string>
+#include <sched.h>
 #include <thread>
 #include <unistd.h>
 
@@ -18,11 +20,16 @@ std::atomic<bool> g_quitting { false };
 int g_initResult = 0;
 unsigned g_words[3] = { 0, 0, 0 };
 int g_samples = -2;
+// passes of the event loop, to tell whether slot 5 ran in the same pass as slot 4
+int g_passes = 0, g_passAtTen = -1, g_slot5Apart = 0;
+int g_policy = -1, g_threadPolicy = -1;
 
 int onStart()
 {
     ++g_starts;
     g_samples = QSurfaceFormat::defaultFormat().samples();
+    if (QAbstractEventDispatcher* d = QAbstractEventDispatcher::instance())
+        QObject::connect(d, &QAbstractEventDispatcher::awake, [] { ++g_passes; });
     return 0;
 }
 int onInit(unsigned, const char*, const char*, const unsigned* w)
@@ -33,12 +40,18 @@ int onInit(unsigned, const char*, const char*, const unsigned* w)
 }
 void on10()
 {
-    ++g_cycles10;
+    if (++g_cycles10 == 1) {
+        g_policy = ::sched_getscheduler(0) & ~SCHED_RESET_ON_FORK;
+        std::thread([] { g_threadPolicy = ::sched_getscheduler(0); }).join();
+    }
+    g_passAtTen = g_passes;
 }
 void on100(int arg)
 {
     if (arg != 0)
         std::printf("bad100arg=%d\n", arg);
+    if (g_passes != g_passAtTen)
+        ++g_slot5Apart;
     // ends the event loop cleanly once both cycles ran for a while: a loaded machine may stall the
     // first frames, after which each timer fires once, so the counts are not compared
     if (++g_cycles100 >= 3 && g_cycles10 >= 30 && !g_quitting.exchange(true))
@@ -83,5 +96,6 @@ int main(int argc, char** argv)
     std::printf("result=%d\nstarts=%d\ninits=%d\ncycles10=%d\ncycles100=%d\nwords=%u,%u,%u\nsamples=%d\n",
         result, g_starts.load(), g_inits.load(), g_cycles10.load(), g_cycles100.load(), g_words[0],
         g_words[1], g_words[2], g_samples);
+    std::printf("slot5apart=%d\npolicy=%d\nthreadpolicy=%d\n", g_slot5Apart, g_policy, g_threadPolicy);
     return 0;
 }

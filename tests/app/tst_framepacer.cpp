@@ -9,6 +9,7 @@
 
 #include <atomic>
 
+#include "app/cyclebeat.h"
 #include "app/framepacer.h"
 #include "app/xquickview.h"
 #include "common/testutil.h"
@@ -23,6 +24,9 @@ private Q_SLOTS:
     void a_grab_does_not_hold_frames_back_data();
     void a_grab_does_not_hold_frames_back();
     void a_slow_frame_still_holds_requests();
+    void a_frame_starts_after_the_cycle_data();
+    void a_frame_starts_after_the_cycle();
+    void the_beat_tells_when_the_next_cycle_is_due();
 };
 
 void tst_FramePacer::pacing_follows_the_environment_data()
@@ -196,6 +200,66 @@ void tst_FramePacer::a_slow_frame_still_holds_requests()
     QTRY_COMPARE_WITH_TIMEOUT(scene.swapped.load(), scene.changed.load(), 2000);
     QVERIFY(scene.view.framePacer()->heldCount() > 0);
     QVERIFY2(longestWait < kSlowMs / 2, qPrintable(QStringLiteral("waited %1 ms").arg(longestWait.load())));
+}
+
+void tst_FramePacer::a_frame_starts_after_the_cycle_data()
+{
+    QTest::addColumn<bool>("stopBeat");
+    QTest::newRow("held until the cycle ends") << false;
+    QTest::newRow("a stopped cycle holds nothing") << true;
+}
+
+void tst_FramePacer::a_frame_starts_after_the_cycle()
+{
+    // a frame started during a cycle's call-backs (or just before the next is due) would keep the
+    // GUI thread in its synchronisation when the cycle should run: it waits for the cycle to end
+    QFETCH(bool, stopBeat);
+    PacedScene scene;
+    QVERIFY(scene.show(
+        "import QtQuick 2.15\nRectangle { anchors.fill: parent; property int step: 0; Text { text: parent.step } }",
+        QSize(200, 100)));
+    FramePacer* pacer = scene.view.framePacer();
+    CycleBeat beat;
+    pacer->setBeat(&beat);
+    QTRY_COMPARE_WITH_TIMEOUT(scene.swapped.load(), scene.changed.load(), 2000);
+
+    beat.started();
+    if (stopBeat)
+        beat.stop(); // the application's timers were killed: no cycle is due
+    scene.change();
+    if (stopBeat) {
+        QTRY_COMPARE_WITH_TIMEOUT(scene.swapped.load(), scene.changed.load(), 2000);
+        QCOMPARE(pacer->heldForCycleCount(), quint64(0));
+        return;
+    }
+    // well within the pacer's safety interval: the request arrived and is held for the cycle
+    QTRY_VERIFY_WITH_TIMEOUT(pacer->heldForCycleCount() > 0, 2000);
+    QTest::qWait(50);
+    QCOMPARE(scene.swapped.load(), scene.changed.load() - 1);
+    beat.ended();
+    QCOMPARE(pacer->releasedAfterCycleCount(), quint64(1)); // at once, inside the cycle's end
+    QTRY_COMPARE_WITH_TIMEOUT(scene.swapped.load(), scene.changed.load(), 2000);
+    QCOMPARE(pacer->timedOutCount(), quint64(0));
+}
+
+void tst_FramePacer::the_beat_tells_when_the_next_cycle_is_due()
+{
+    constexpr qint64 kInterval = 10'000'000;
+    CycleBeat beat(kInterval);
+    QCOMPARE(beat.nsUntilNext(), qint64(-1)); // never started
+    beat.started();
+    QCOMPARE(beat.nsUntilNext(), qint64(0)); // running
+    QSignalSpy ended(&beat, &CycleBeat::cycleEnded);
+    beat.ended();
+    beat.ended(); // one end per start
+    QCOMPARE(ended.count(), 1);
+    const qint64 left = beat.nsUntilNext();
+    QVERIFY2(left > 0 && left <= kInterval, qPrintable(QString::number(left)));
+    QTest::qWait(3 * kInterval / 1'000'000);
+    QCOMPARE(beat.nsUntilNext(), qint64(-1)); // no start for two intervals: no cycle runs
+    beat.started();
+    beat.stop();
+    QCOMPARE(beat.nsUntilNext(), qint64(-1));
 }
 
 QTEST_MAIN(tst_FramePacer)

@@ -5,6 +5,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <sched.h>
+
 #include "common/testutil.h"
 
 class tst_MainLoop : public QObject {
@@ -13,6 +15,8 @@ class tst_MainLoop : public QObject {
 private Q_SLOTS:
     void main_loop_runs_the_logic_layer_data();
     void main_loop_runs_the_logic_layer();
+    void the_cycle_runs_at_real_time_priority_data();
+    void the_cycle_runs_at_real_time_priority();
 
 private:
     QMap<QString, QString> run(const QStringList& args, const QProcessEnvironment& env, int* exitCode);
@@ -100,12 +104,47 @@ void tst_MainLoop::main_loop_runs_the_logic_layer()
     if (loopRan) {
         QVERIFY(out.value("cycles100").toInt() >= 3);
         QVERIFY(out.value("cycles10").toInt() >= 30); // the child quits only after both
+        // slot 5 runs right after slot 4, in the same pass of the event loop, never on its own
+        QCOMPARE(out.value("slot5apart"), QString("0"));
     } else {
         QCOMPARE(out.value("cycles10"), QString("0"));
         QCOMPARE(out.value("cycles100"), QString("0"));
     }
     if (args.first() != "nullargv")
         QVERIFY(QDir(prj.path() + "/disk/tmp").exists());
+}
+
+void tst_MainLoop::the_cycle_runs_at_real_time_priority_data()
+{
+    QTest::addColumn<QString>("env");
+    QTest::addColumn<int>("policy"); // of the thread running the cycle
+    QTest::newRow("by default") << "" << int(SCHED_FIFO);
+    QTest::newRow("priority 0: left alone") << "QGUI_CYCLE_PRIORITY=0" << int(SCHED_OTHER);
+    QTest::newRow("not a number: the default") << "QGUI_CYCLE_PRIORITY=high" << int(SCHED_FIFO);
+}
+
+void tst_MainLoop::the_cycle_runs_at_real_time_priority()
+{
+    QFETCH(QString, env);
+    QFETCH(int, policy);
+    sched_param param {};
+    param.sched_priority = 1;
+    if (policy == SCHED_FIFO && ::sched_setscheduler(0, SCHED_FIFO | SCHED_RESET_ON_FORK, &param) != 0)
+        QSKIP("this process may not use the real-time class");
+    param.sched_priority = 0;
+    ::sched_setscheduler(0, SCHED_OTHER, &param);
+
+    QTemporaryDir prj;
+    QProcessEnvironment e = QProcessEnvironment::systemEnvironment();
+    e.remove("QGUI_CYCLE_PRIORITY");
+    if (!env.isEmpty())
+        e.insert(env.section('=', 0, 0), env.section('=', 1));
+    int code = 0;
+    const auto out = run({ "run", "-hmifile", prj.path() }, e, &code);
+    QCOMPARE(code, 0);
+    QCOMPARE(out.value("policy").toInt(), policy);
+    // a thread the logic layer starts from the cycle is an ordinary one
+    QCOMPARE(out.value("threadpolicy").toInt(), int(SCHED_OTHER));
 }
 
 QTEST_GUILESS_MAIN(tst_MainLoop)
