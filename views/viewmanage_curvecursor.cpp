@@ -46,6 +46,8 @@ int ViewManage::View_CurveSampleShowCursor(
         chart->moveCursorTo(chart->xAxis() ? chart->xAxis()->range().center() : 0);
     chart->setCursorEnabled(true);
     chart->fillCursorWindow();
+    // the window follows new samples until the logic layer writes it
+    chart->setCursorContentFromLogic(!title.empty());
     if (!title.empty())
         chart->cursorWindow()->setTitle(Core::cutText(Core::fromUtf8(title.c_str()), 256));
     return 0;
@@ -57,6 +59,7 @@ int ViewManage::View_CurveUpdateCursorContent(
     CurveSampleChart* chart = curveSampleChart(id);
     if (!chart || !chart->cursorWindow())
         return -1;
+    chart->setCursorContentFromLogic(true);
     if (title)
         chart->cursorWindow()->setTitle(Core::cutText(Core::fromUtf8(title), 256));
     chart->cursorWindow()->setRows(TableSetup::toPage(rows, CurveCursor::kMaxColumns));
@@ -85,6 +88,7 @@ int ViewManage::View_CurveUpdateCursorTitle(unsigned int id, const View_Text& ti
     CurveSampleChart* chart = curveSampleChart(id);
     if (!chart || !chart->cursorWindow())
         return -1;
+    chart->setCursorContentFromLogic(true);
     chart->cursorWindow()->setTitle(Core::cutText(Core::fromUtf8(title.text), 256));
     return 0;
 }

@@ -55,6 +55,8 @@ private Q_SLOTS:
     void wheel_zoom_shows_the_restore_button();
     void each_channel_draws_in_its_colour();
     void cursor_window_shows_each_channel_at_the_cursor();
+    void cursor_window_follows_samples_that_arrive_after_it_data();
+    void cursor_window_follows_samples_that_arrive_after_it();
     void cursor_calls_on_unknown_ids();
     void two_fingers_pinch_the_span();
     void a_chart_deleted_in_a_drag();
@@ -619,6 +621,55 @@ void tst_CurveSample::cursor_window_shows_each_channel_at_the_cursor()
     // the cursor switched off: the window goes
     QCOMPARE(View_CurveEnableCursor(22, false), 0);
     QVERIFY(!w->isVisible());
+}
+
+void tst_CurveSample::cursor_window_follows_samples_that_arrive_after_it_data()
+{
+    QTest::addColumn<QByteArray>("title"); // given with the cursor; empty: the chart's own
+    QTest::addColumn<bool>("follows");
+    QTest::newRow("the chart's own content") << QByteArray() << true;
+    QTest::newRow("a title from the logic layer stays") << QByteArray("Batch 7") << false;
+}
+
+void tst_CurveSample::cursor_window_follows_samples_that_arrive_after_it()
+{
+    // a cursor shown on an empty chart (a trend opened before its history is read) shows the samples
+    // that arrive afterwards, unless the logic layer wrote the window itself
+    QFETCH(QByteArray, title);
+    QFETCH(bool, follows);
+    QCOMPARE(create(23, CURVE_X_SAMPLE_LABEL), 0);
+    CurveSampleChart* c = chart(23);
+    double limits[2] = { 0, 10000 };
+    QCOMPARE(View_CurveSampleUpdateDataLimit(23, 3, 2, limits), 0);
+    QCOMPARE(View_CurveSampleShowCursor(23, title.toStdString(), { { 0, "Flow" } }), 0);
+    CurveCursor* w = c->cursorWindow();
+    QVERIFY(w);
+    QCOMPARE(w->cellText(0, 1), QStringLiteral("-"));
+    const double key = c->cursorKey();
+    QVERIFY(key > 2);
+    auto push = [&](int from, int to) {
+        std::vector<std::vector<double>> values(1);
+        std::vector<std::string> labels;
+        for (int i = from; i < to; ++i) {
+            values[0].push_back(100 * i); // i.00 at sample i
+            labels.push_back("s" + std::to_string(i));
+        }
+        QCOMPARE(View_CurveSamplePushData(23, labels, values), 0);
+    };
+    push(0, 2); // all before the cursor: the nearest is the last
+    QCOMPARE(w->cellText(0, 1), follows ? QStringLiteral("1.00") : QStringLiteral("-"));
+    push(2, int(key) + 5);
+    const QString atCursor = QString::number(key, 'f', 2);
+    QCOMPARE(w->cellText(0, 1), follows ? atCursor : QStringLiteral("-"));
+    QCOMPARE(w->title() == QString::fromUtf8(title), !follows);
+    // the logic layer writes the window: later samples leave it alone
+    QCOMPARE(View_CurveUpdateCursorContent(23, "mine", { { View_ListColData { "x", nullptr, nullptr, 0, 0 } } }), 0);
+    push(int(key) + 5, int(key) + 10);
+    QCOMPARE(w->cellText(0, 0), QStringLiteral("x"));
+    QCOMPARE(w->title(), QStringLiteral("mine"));
+    // a move of the cursor fills it again from the samples
+    c->moveCursorTo(1);
+    QCOMPARE(w->cellText(0, 1), QStringLiteral("1.00"));
 }
 
 void tst_CurveSample::cursor_calls_on_unknown_ids()

@@ -182,7 +182,18 @@ void CurveSampleChart::tookSamples(double minKey, double maxKey)
     rect->setMinData(std::min(rect->minData(), minKey));
     m_xMax = std::max(m_xMax, maxKey);
     scroolToNext(maxKey);
+    if (!m_cursorSettled)
+        refreshCursorWindow();
     queueReplot();
+}
+
+void CurveSampleChart::refreshCursorWindow()
+{
+    if (!m_cursorWindow || !m_cursorEnabled || !m_cursorInited || m_cursorContentFromLogic)
+        return;
+    fillCursorWindow();
+    if (!pointInCurrent(m_cursorKey))
+        m_cursorWindow->setVisible(false); // it goes with its line, out of sight
 }
 
 void CurveSampleChart::pushData(const std::vector<std::string>& labels, const std::vector<std::vector<double>>& values)
@@ -246,6 +257,8 @@ void CurveSampleChart::pushKeyed(
         for (int i = 0; i < n; ++i)
             shown[i] = plotValue(values[c][size_t(i)]);
         const bool after = graph->data()->isEmpty() || k.first() >= (graph->data()->constEnd() - 1)->key;
+        if (!after)
+            m_cursorSettled = false; // samples among the held ones may be nearer the cursor
         graph->addData(k, shown, sorted && after);
         for (double key : qAsConst(k)) {
             maxKey = std::max(maxKey, key);
@@ -310,6 +323,7 @@ void CurveSampleChart::replaceDataKeyed(const std::vector<unsigned>& channels, c
         m_xMin = minKey;
         m_xMax = maxKey;
     }
+    refreshCursorWindow();
     queueReplot();
 }
 
@@ -336,6 +350,7 @@ void CurveSampleChart::clearData(const std::vector<unsigned>& channels)
     if (xAxis()) {
         xAxis()->setRange(m_orgRange.lower, m_orgRange.size() * m_scale, Qt::AlignLeft);
     }
+    refreshCursorWindow();
     queueReplot();
 }
 
@@ -473,10 +488,12 @@ void CurveSampleChart::fillCursorWindow()
     QVector<QVector<XTableCell>> rows;
     QVector<QColor> marks;
     const CustomLabelAxisTicker* y = yTicker();
+    bool settled = true;
     for (int c = 0; c < m_graphs.size(); ++c) {
         XCPGraph* graph = m_graphs.at(c);
         if (!graph->visible())
             continue;
+        settled = settled && !graph->data()->isEmpty() && (graph->data()->constEnd() - 1)->key >= key;
         // the sample nearest the cursor
         QString value = QStringLiteral("-");
         const auto data = graph->data();
@@ -502,6 +519,7 @@ void CurveSampleChart::fillCursorWindow()
         marks.append(graph->pen().color());
     }
     window->setTitle(title);
+    m_cursorSettled = settled;
     window->setRows(rows, marks);
     if (XCPAxis* x = xAxis())
         window->placeBeside(x->coordToPixel(key) + orgPosition().x(), QRectF(plotArea()));
@@ -514,6 +532,7 @@ void CurveSampleChart::moveCursorTo(double key)
         return;
     m_cursorKey = m_xAxisMode == TimeAxis ? key : std::round(key);
     m_cursorInited = true;
+    m_cursorContentFromLogic = false;
     if (m_cursorLine) {
         m_cursorLine->point1->setCoords(m_cursorKey, 0);
         m_cursorLine->point2->setCoords(m_cursorKey, 100);

@@ -133,6 +133,10 @@ public:
     /** Shows or hides the cursor line (and the cursor window). */
     void setCursorEnabled(bool on);
     bool cursorEnabled() const { return m_cursorEnabled; }
+    /** Whether the logic layer wrote the cursor window's title or rows: new samples then leave the
+     *  window alone (a move of the cursor fills it again, and clears this). */
+    bool cursorContentFromLogic() const { return m_cursorContentFromLogic; }
+    void setCursorContentFromLogic(bool fromLogic) { m_cursorContentFromLogic = fromLogic; }
     /** Puts the cursor line at key \a key (the nearest whole sample outside time mode). */
     void moveCursorTo(double key);
     double cursorKey() const { return m_cursorKey; }
@@ -182,6 +186,8 @@ private:
     void setZoomed(bool zoomed);
     /** After samples up to \a maxKey (from \a minKey) were added: data bounds, following, replot. */
     void tookSamples(double minKey, double maxKey);
+    /** Fills the cursor window again when it is shown and new samples may have changed its values. */
+    void refreshCursorWindow();
 
     int m_xAxisMode = SampleAxis;
     QCPRange m_orgRange { 0, 100 };
@@ -195,6 +201,10 @@ private:
     QPen m_cursorPen { Qt::red };
     bool m_cursorInited = false;
     bool m_cursorEnabled = false;
+    /** Every shown channel holds a sample at or after the cursor: samples appended later cannot be
+     *  nearer, and the cursor window's values stand. */
+    bool m_cursorSettled = false;
+    bool m_cursorContentFromLogic = false;
     double m_cursorKey = 0;
     QPointer<CurveCursor> m_cursorWindow;
     QStringList m_channelNames;
