@@ -394,8 +394,9 @@ void tst_Mqtt::broker_killed_and_restarted_20_times()
         m_broker->kill();
         QVERIFY2(spinUntil([&] { return hasEvent(h, kState, 0); }, 10000), qPrintable(QString::number(outage)));
         spinUntil([] { return false; }, qMax<qint64>(0, 500 - down.elapsed()));
-        const qint64 outageMs = down.elapsed();
         QVERIFY2(m_broker->start(), qPrintable(m_broker->lastError()));
+        // the outage ends when the broker accepts connections again (its start-up is part of it)
+        const qint64 outageMs = down.elapsed();
         QVERIFY2(spinUntil([&] { return hasEvent(h, kState, 2); }, 40000), qPrintable(QString::number(outage)));
         const qint64 back = down.elapsed() - outageMs;
         worstBack = qMax(worstBack, back);
